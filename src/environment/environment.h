@@ -1,0 +1,24 @@
+// Everything outside the add-in, handed to each command as one value. Behind the references stand
+// either plain data or the real environment.
+#pragma once
+
+#include "environment/desktop.h"
+#include "environment/registry.h"
+#include "environment/vbe.h"
+
+namespace brimwork {
+
+struct Environment {
+  VBE& vbe;
+  Screen& screen;
+  Clipboard& clipboard;
+  Keyboard& keyboard;
+  Dialogs& dialogs;
+  MessageLoop& messageLoop;
+  Registry& registry;
+  SettingsArea& settingsArea;
+  ShellFolders& shellFolders;
+  Clock& clock;
+};
+
+}  // namespace brimwork

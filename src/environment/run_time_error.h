@@ -1,0 +1,33 @@
+// The one error that an environment call raises. Only code that says "resume next" catches it.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace brimwork {
+
+/// Numbers of the Visual Basic run-time errors that the environment raises.
+namespace error_number {
+inline constexpr int kInvalidProcedureCall = 5;
+inline constexpr int kOverflow = 6;
+inline constexpr int kSubscriptOutOfRange = 9;
+inline constexpr int kTypeMismatch = 13;
+inline constexpr int kProcedureNotDefined = 35;
+}  // namespace error_number
+
+class RunTimeError : public std::runtime_error {
+ public:
+  /// number: a Visual Basic run-time error number; line: the module line at fault (from 1), 0 when
+  /// the error belongs to no line.
+  RunTimeError(int number, const std::string& description, int line = 0)
+      : std::runtime_error(description), number_(number), line_(line) {}
+
+  int Number() const { return number_; }
+  int Line() const { return line_; }
+
+ private:
+  int number_;
+  int line_;
+};
+
+}  // namespace brimwork
