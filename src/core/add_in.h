@@ -1,0 +1,32 @@
+// The add-in's state for as long as it is connected; one object, handed to every command.
+#pragma once
+
+#include <functional>
+
+#include "core/frmInfo.h"
+#include "environment/resume_next.h"
+#include "transform/context.h"
+
+namespace brimwork {
+
+struct AddIn {
+  explicit AddIn(const Environment& parts) : environment(parts), context{environment} {}
+  AddIn(const AddIn&) = delete;
+  AddIn& operator=(const AddIn&) = delete;
+
+  /// Runs a step of a command. A run-time error ends the step only; the user is not told, but
+  /// onSkippedError is.
+  template <class Step>
+  bool Attempt(Step&& step) {
+    const auto error = ResumeNext(step);
+    if (error && onSkippedError) onSkippedError(*error);
+    return !error;
+  }
+
+  Environment environment;
+  Context context;
+  frmInfo progressWindow;
+  std::function<void(const RunTimeError&)> onSkippedError;
+};
+
+}  // namespace brimwork

@@ -1,0 +1,28 @@
+// Every entry that the add-in places in the environment's menus, pop-up menus and toolbar, in one
+// table in building order. A caption is also its command's name: equal captions run the same
+// command.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace brimwork {
+
+/// The command bar that an entry is built on.
+enum class Place { kAddInsMenu, kCodeWindowPopup, kImmediateWindowPopup, kToolbar };
+
+struct CatalogueEntry {
+  int handler;               // number of its click handler; numbers once used are not given again
+  std::string_view caption;  // compared exactly
+  std::string_view faceKey;  // selects the button's picture; "" for an entry without one
+  Place place;
+  std::string_view submenu;  // caption of the submenu that it stands in, "" for none
+  bool wholeModule;          // acts on every procedure instead of the one at the caret
+  bool hourglass;            // its handler shows the hourglass while the command runs
+  bool beginGroup;           // a separator stands above it
+};
+
+/// All entries in building order: Add-Ins menu, pop-up menus, toolbar.
+std::span<const CatalogueEntry> Catalogue();
+
+}  // namespace brimwork

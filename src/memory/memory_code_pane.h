@@ -1,0 +1,33 @@
+// A code window as plain data: the caret and selection in a module, and what keystrokes do to them.
+#pragma once
+
+#include <memory>
+
+#include "environment/vbe.h"
+#include "memory/key_target.h"
+#include "memory/memory_code_module.h"
+
+namespace brimwork {
+
+class MemoryCodePane : public CodePane, public KeyTarget {
+ public:
+  explicit MemoryCodePane(std::shared_ptr<MemoryCodeModule> module) : module_(std::move(module)) {}
+
+  std::shared_ptr<CodeModule> Module() override { return module_; }
+  Selection GetSelection() override { return selection_; }
+  void SetSelection(const Selection& selection) override;
+
+  void Copy(Clipboard& clipboard) override;
+  void Paste(Clipboard& clipboard) override;
+  void SelectAll() override;
+  void Delete() override;
+  void Type(std::string_view text) override;
+
+  std::string SelectedText() const;
+
+ private:
+  std::shared_ptr<MemoryCodeModule> module_;
+  Selection selection_;
+};
+
+}  // namespace brimwork

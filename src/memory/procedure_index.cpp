@@ -1,0 +1,152 @@
+#include "memory/procedure_index.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+#include "environment/text.h"
+
+namespace brimwork {
+namespace {
+
+constexpr int kWholeModule = std::numeric_limits<int>::max();
+
+/// Walks down the lines and keeps what the line at hand depends on from the lines above it.
+class LineCursor {
+ public:
+  LineCursor(const ModuleText& text, int line) : text_(text), line_(line) { Read(); }
+
+  bool AtEnd() const { return line_ > text_.Count(); }
+  int LineNumber() const { return line_; }
+  std::string_view Text() const { return current_; }
+  Continues Above() const { return above_; }
+
+  /// The last line down to this one that is code: neither blank nor comment, or continuing code.
+  int LastCodeLine() const { return lastCode_; }
+  int LastCodeLineAbove() const { return lastCodeAbove_; }
+
+  std::optional<Declaration> DeclarationHere() const {
+    if (above_ != Continues::kNothing || inTypeBlock_) return std::nullopt;
+    return ParseDeclaration(current_);
+  }
+
+  void Next() {
+    if (inTypeBlock_) {
+      inTypeBlock_ = !ClosesTypeBlock(current_);
+    } else if (above_ == Continues::kNothing) {
+      inTypeBlock_ = OpensTypeBlock(current_) && !ClosesTypeBlock(current_);
+    }
+    above_ = ContinuedBelow(current_, above_);
+    ++line_;
+    Read();
+  }
+
+ private:
+  void Read() {
+    lastCodeAbove_ = lastCode_;
+    if (AtEnd()) return;
+    current_ = text_.Line(line_);
+    const bool continuesCode = above_ != Continues::kNothing && lastCode_ == line_ - 1;
+    if (continuesCode || (!IsBlankLine(current_) && !IsCommentLine(current_, above_))) {
+      lastCode_ = line_;
+    }
+  }
+
+  const ModuleText& text_;
+  int line_;
+  std::string_view current_;
+  Continues above_ = Continues::kNothing;
+  bool inTypeBlock_ = false;
+  int lastCode_ = 0;
+  int lastCodeAbove_ = 0;
+};
+
+/// The last line that continues the given one.
+int LastContinuingLine(const ModuleText& text, int line) {
+  while (line < text.Count() && IsContinued(text.Line(line))) ++line;
+  return line;
+}
+
+/// Where a procedure ends, and the last line that was looked at to know it.
+struct Ending {
+  int line;
+  int dependsOnLine;
+};
+
+Ending ClosedAt(const ModuleText& text, int closingLine) {
+  const int last = LastContinuingLine(text, closingLine);
+  return {last, IsContinued(text.Line(last)) ? kWholeModule : last};
+}
+
+/// The cursor stands on the declaration. Declarations with a # line between them are alternative
+/// heads of one procedure; any other declaration before a closing statement ends it unclosed.
+Ending FindEnding(const ModuleText& text, LineCursor cursor) {
+  bool conditionalLineSinceHead = false;
+  for (bool atHead = true; !cursor.AtEnd(); cursor.Next(), atHead = false) {
+    if (!atHead && cursor.DeclarationHere()) {
+      if (!conditionalLineSinceHead) return {cursor.LastCodeLineAbove(), cursor.LineNumber()};
+      conditionalLineSinceHead = false;
+    }
+    if (ClosesProcedure(cursor.Text(), cursor.Above())) return ClosedAt(text, cursor.LineNumber());
+    if (cursor.Above() == Continues::kNothing && IsConditionalCompilationLine(cursor.Text())) {
+      conditionalLineSinceHead = true;
+    }
+  }
+  return {cursor.LastCodeLine(), kWholeModule};
+}
+
+}  // namespace
+
+int ProcedureIndex::DeclarationLines(const ModuleText& text) {
+  if (entries_.empty() && !complete_) ScanNext(text);
+  return entries_.empty() ? text.Count() : declarationLines_;
+}
+
+const ProcedureIndex::Procedure* ProcedureIndex::At(const ModuleText& text, int line) {
+  while (!IsKnownBelow(line)) ScanNext(text);
+  const auto entry = std::partition_point(entries_.begin(), entries_.end(),
+                                          [line](const Entry& e) { return e.end < line; });
+  return entry != entries_.end() && entry->start <= line ? &*entry : nullptr;
+}
+
+const ProcedureIndex::Procedure* ProcedureIndex::FirstNamed(const ModuleText& text,
+                                                            std::string_view name, ProcKind kind) {
+  for (std::size_t i = 0; i < entries_.size() || ScanNext(text); ++i) {
+    if (entries_[i].kind == kind && EqualNames(NameOf(text, entries_[i]), name))
+      return &entries_[i];
+  }
+  return nullptr;
+}
+
+std::string_view ProcedureIndex::NameOf(const ModuleText& text, const Procedure& procedure) {
+  return ParseDeclaration(text.Line(procedure.body))->name;
+}
+
+void ProcedureIndex::NoteEdit(int firstLine) {
+  complete_ = false;
+  while (!entries_.empty() && entries_.back().dependsOnLine >= firstLine) entries_.pop_back();
+}
+
+/// Finds the first procedure behind the last known one; false when there is none.
+bool ProcedureIndex::ScanNext(const ModuleText& text) {
+  if (complete_) return false;
+  const int first = entries_.empty() ? 1 : entries_.back().end + 1;
+  LineCursor cursor(text, first);
+  while (!cursor.AtEnd() && !cursor.DeclarationHere()) cursor.Next();
+  if (cursor.AtEnd()) {
+    complete_ = true;
+    return false;
+  }
+  Entry entry;
+  if (entries_.empty()) declarationLines_ = cursor.LastCodeLineAbove();
+  entry.start = entries_.empty() ? declarationLines_ + 1 : first;
+  entry.body = cursor.LineNumber();
+  entry.kind = cursor.DeclarationHere()->kind;
+  const Ending ending = FindEnding(text, cursor);
+  entry.end = ending.line;
+  entry.dependsOnLine = ending.dependsOnLine;
+  entries_.push_back(entry);
+  return true;
+}
+
+}  // namespace brimwork

@@ -1,0 +1,57 @@
+// Which procedure each line belongs to, worked out from the text alone, from the top down and only
+// as far as somebody asked. An edit forgets what it may have changed and everything below it; a
+// command that moves down a module therefore has each procedure read a few times, however long the
+// module is.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "environment/basic_lines.h"
+#include "environment/code_module.h"
+#include "memory/module_text.h"
+
+namespace brimwork {
+
+class ProcedureIndex {
+ public:
+  struct Procedure {
+    int start = 0;  // first line, attached comment and blank lines included
+    int body = 0;   // line of the declaration
+    int end = 0;    // last line
+    ProcKind kind = ProcKind::kProcedure;
+  };
+
+  /// The last line above the first declaration that is neither blank nor comment; all lines when
+  /// there is no declaration.
+  int DeclarationLines(const ModuleText& text);
+
+  /// The procedure that holds the line, null outside every procedure. Valid until the next call.
+  const Procedure* At(const ModuleText& text, int line);
+
+  /// The first procedure of that name and kind, null when there is none.
+  const Procedure* FirstNamed(const ModuleText& text, std::string_view name, ProcKind kind);
+
+  /// The procedure's name as its declaration writes it. Valid until the text is edited.
+  static std::string_view NameOf(const ModuleText& text, const Procedure& procedure);
+
+  /// Lines from firstLine on may have changed, come or gone.
+  void NoteEdit(int firstLine);
+
+ private:
+  struct Entry : Procedure {
+    int dependsOnLine = 0;  // the last line that was looked at to place it
+  };
+
+  bool ScanNext(const ModuleText& text);
+  bool IsKnownBelow(int line) const {
+    return complete_ || (!entries_.empty() && entries_.back().end >= line);
+  }
+
+  std::vector<Entry> entries_;
+  bool complete_ = false;  // no procedure behind the last entry
+  int declarationLines_ = 0;
+};
+
+}  // namespace brimwork

@@ -1,0 +1,24 @@
+// Where a procedure's declaration, body and closing line are.
+#pragma once
+
+#include <optional>
+
+#include "environment/code_module.h"
+#include "transform/context.h"
+
+namespace brimwork {
+
+/// Fills context.procedure for the procedure that holds line and returns the first line behind it.
+/// Outside every procedure only the name becomes "": the other fields keep what the query before
+/// left there, as long as it was in the same module, and the result is the line behind that
+/// procedure. A failing query empties the record before the error goes on.
+int GetProcedureBounds(Context& context, CodeModule& module, int line);
+
+/// The line with the procedure's own End Sub, End Function or End Property, in any letter case;
+/// nothing when it has none. firstLine is the line of its declaration, lastLine its last line.
+std::optional<int> FindClosingLine(CodeModule& module, int firstLine, int lastLine);
+
+/// The first line of the statement or comment that the line belongs to, not above firstLine.
+int StatementStart(CodeModule& module, int line, int firstLine);
+
+}  // namespace brimwork
