@@ -87,8 +87,6 @@ constexpr CatalogueEntry kEntries[] = {
 
 }  // namespace
 
-std::span<const CatalogueEntry> Catalogue() {
-  return kEntries;
-}
+std::span<const CatalogueEntry> Catalogue() { return kEntries; }
 
 }  // namespace brimwork

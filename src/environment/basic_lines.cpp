@@ -10,25 +10,12 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-bool IsLetter(char c) {
-  return ToUpperAscii(c) >= 'A' && ToUpperAscii(c) <= 'Z';
-}
-bool IsAboveAscii(char c) {
-  return static_cast<unsigned char>(c) > 127;
-}
-bool IsNameCharacter(char c) {
-  return IsLetter(c) || IsDigit(c) || c == '_' || IsAboveAscii(c);
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsLetter(char c) { return ToUpperAscii(c) >= 'A' && ToUpperAscii(c) <= 'Z'; }
+bool IsAboveAscii(char c) { return static_cast<unsigned char>(c) > 127; }
+bool IsNameCharacter(char c) { return IsLetter(c) || IsDigit(c) || c == '_' || IsAboveAscii(c); }
 
-std::string_view SkipBlanks(std::string_view text) {
-  return TrimLeft(text, kBlanks);
-}
+std::string_view SkipBlanks(std::string_view text) { return TrimLeft(text, kBlanks); }
 
 /// Takes the word off text when it stands there in any case and ends there.
 bool TakeWord(std::string_view& text, std::string_view upperCaseWord) {
@@ -42,7 +29,7 @@ bool TakeWord(std::string_view& text, std::string_view upperCaseWord) {
 /// Takes the word and the blanks that must follow it.
 bool TakeWordAndBlanks(std::string_view& text, std::string_view upperCaseWord) {
   std::string_view rest = text;
-  if (!TakeWord(rest, upperCaseWord) || rest.empty() || !IsBlank(rest[0])) return false;
+  if (!TakeWord(rest, upperCaseWord) || rest.empty() || !IsBlankOrTab(rest[0])) return false;
   text = SkipBlanks(rest);
   return true;
 }
@@ -114,9 +101,7 @@ bool HoldsEndOf(std::string_view line, Continues above,
   return found;
 }
 
-bool IsTypeCharacter(char c) {
-  return std::string_view("%&!#@$").find(c) != std::string_view::npos;
-}
+bool IsTypeCharacter(char c) { return IsOneOf(c, "%&!#@$"); }
 
 }  // namespace
 
@@ -127,9 +112,7 @@ Continues ContinuedBelow(std::string_view line, Continues above) {
   return comment == std::string_view::npos ? Continues::kStatement : Continues::kComment;
 }
 
-bool IsBlankLine(std::string_view line) {
-  return line.find_first_not_of(kBlanks) == std::string_view::npos;
-}
+bool IsBlankLine(std::string_view line) { return SkipBlanks(line).empty(); }
 
 bool IsCommentLine(std::string_view line, Continues above) {
   if (above == Continues::kComment) return true;
@@ -158,7 +141,7 @@ bool IsConditionalCompilationLine(std::string_view line) {
 
 std::optional<Declaration> ParseDeclaration(std::string_view line) {
   std::string_view text = SkipBlanks(line);
-  if (text.empty() || std::string_view("PFSpfs").find(text[0]) == std::string_view::npos) {
+  if (text.empty() || !IsOneOf(text[0], "PFSpfs")) {
     return std::nullopt;
   }
   while (!TakeOneOf(text, {"PUBLIC", "PRIVATE", "FRIEND", "STATIC"}).empty()) {
@@ -184,7 +167,7 @@ std::optional<Declaration> ParseDeclaration(std::string_view line) {
 
 bool OpensTypeBlock(std::string_view line) {
   std::string_view text = SkipBlanks(line);
-  if (text.empty() || std::string_view("PTEpte").find(text[0]) == std::string_view::npos) {
+  if (text.empty() || !IsOneOf(text[0], "PTEpte")) {
     return false;
   }
   TakeOneOf(text, {"PUBLIC", "PRIVATE"});

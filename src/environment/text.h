@@ -8,20 +8,31 @@
 
 namespace brimwork {
 
+inline bool IsBlankOrTab(char c) { return c == ' ' || c == '\t'; }
+
+constexpr bool IsOneOf(char c, std::string_view set) {
+  for (const char member : set) {
+    if (c == member) return true;
+  }
+  return false;
+}
+
+// Every line of a module passes through these several times, so they are plain loops.
+
 inline std::string_view TrimLeft(std::string_view text, std::string_view dropped = " ") {
-  const auto first = text.find_first_not_of(dropped);
-  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+  std::size_t first = 0;
+  while (first < text.size() && IsOneOf(text[first], dropped)) ++first;
+  return text.substr(first);
 }
 
 inline std::string_view TrimRight(std::string_view text, std::string_view dropped = " ") {
-  const auto last = text.find_last_not_of(dropped);
-  return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
+  std::size_t end = text.size();
+  while (end > 0 && IsOneOf(text[end - 1], dropped)) --end;
+  return text.substr(0, end);
 }
 
 /// Visual Basic's Trim: blanks only, never tabs.
-inline std::string_view Trim(std::string_view text) {
-  return TrimRight(TrimLeft(text));
-}
+inline std::string_view Trim(std::string_view text) { return TrimRight(TrimLeft(text)); }
 
 inline std::string_view TrimBlanksAndTabs(std::string_view text) {
   return TrimRight(TrimLeft(text, " \t"), " \t");
@@ -32,9 +43,7 @@ inline bool Contains(std::string_view text, std::string_view part) {
 }
 
 /// True for a line that the next line continues: it ends in a blank and an underscore.
-inline bool IsContinued(std::string_view line) {
-  return line.ends_with(" _");
-}
+inline bool IsContinued(std::string_view line) { return line.ends_with(" _"); }
 
 constexpr char ToUpperAscii(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;

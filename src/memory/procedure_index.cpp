@@ -11,6 +11,12 @@ namespace {
 
 constexpr int kWholeModule = std::numeric_limits<int>::max();
 
+/// The line without its indent but for one blank: a lone underscore continues only behind a blank.
+std::string_view WithoutIndent(std::string_view line) {
+  const std::size_t indent = line.size() - TrimLeft(line, " \t").size();
+  return indent > 1 ? line.substr(indent - 1) : line;
+}
+
 /// Walks down the lines and keeps what the line at hand depends on from the lines above it.
 class LineCursor {
  public:
@@ -45,7 +51,7 @@ class LineCursor {
   void Read() {
     lastCodeAbove_ = lastCode_;
     if (AtEnd()) return;
-    current_ = text_.Line(line_);
+    current_ = WithoutIndent(text_.Line(line_));
     const bool continuesCode = above_ != Continues::kNothing && lastCode_ == line_ - 1;
     if (continuesCode || (!IsBlankLine(current_) && !IsCommentLine(current_, above_))) {
       lastCode_ = line_;

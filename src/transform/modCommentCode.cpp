@@ -12,9 +12,7 @@
 namespace brimwork {
 namespace {
 
-bool IsEmptyLine(CodeModule& module, int line) {
-  return IsBlankLine(module.Lines(line, 1));
-}
+bool IsEmptyLine(CodeModule& module, int line) { return IsBlankLine(module.Lines(line, 1)); }
 
 /// The lines of one procedure as they are at the moment; every edit may move them.
 struct ProcedureLines {

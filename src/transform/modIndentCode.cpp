@@ -56,7 +56,7 @@ class Indenter {
     line_ = line;
     result_.clear();
     std::string_view code = Trim(text);
-    if (code.find_first_not_of(" \t") == std::string_view::npos) return result_;
+    if (TrimLeft(code, " \t").empty()) return result_;
     code = TrimLeft(code, "\t");
     if (code.starts_with("Rem ") || code.starts_with('\'') || continuesComment_) {
       IndentComment(code);
