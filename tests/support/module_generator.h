@@ -12,7 +12,7 @@ namespace brimwork {
 struct GeneratorOptions {
   unsigned seed = 1;
   int lines = 1000;            // reached, and passed by less than one procedure (a few if odd)
-  bool messy = false;          // indents, blanks and tabs at random instead of tidy code
+  bool messy = false;          // indents, blanks and tabs at random, else as the indenter does
   bool continuations = false;  // some statements and declarations run over several lines
   bool lineNumbers = false;    // some procedures carry numeric labels of their own ("120:")
   bool oddities = false;       // half-written and unusual code; without it the code is well-formed

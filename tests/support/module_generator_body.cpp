@@ -54,7 +54,7 @@ struct BlockText {
 };
 
 constexpr std::array<BlockText, 6> kBlocks = {{
-    {"For position = 1 To~count", "Next position"},
+    {"For position = 1 To count", "Next position"},
     {"For Each entry In entries", "Next"},
     {"Do While position < limit", "Loop"},
     {"While pending > 0", "Wend"},

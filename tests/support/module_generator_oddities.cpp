@@ -50,8 +50,7 @@ void WritePropertyTrio(Writer& writer, Procedures& procedures) {
 void WriteOneLiner(Writer& writer, Procedures& procedures) {
   const GeneratedProcedure procedure = procedures.Invent();
   procedures.List(procedure);
-  writer.Line("Public " + procedure.word + (procedure.word == "Property" ? " Get " : " ") +
-              procedure.name + "(): total = 1: End " + procedure.word);
+  writer.Line("Public " + HeadOf(procedure) + ": total = 1: End " + procedure.word);
 }
 
 void WriteEmpty(Writer&, Procedures& procedures) {

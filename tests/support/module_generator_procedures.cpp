@@ -68,9 +68,7 @@ GeneratedProcedure Procedures::Invent() {
   return InventNamed(stem);
 }
 
-void Procedures::List(const GeneratedProcedure& procedure) {
-  list_.push_back(procedure);
-}
+void Procedures::List(const GeneratedProcedure& procedure) { list_.push_back(procedure); }
 
 void Procedures::Open(const GeneratedProcedure& procedure, std::string_view access) {
   List(procedure);

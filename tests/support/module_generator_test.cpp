@@ -10,8 +10,11 @@
 #include <optional>
 #include <set>
 
+#include "core/modButtonClicked.h"
 #include "environment/basic_lines.h"
 #include "environment/text.h"
+#include "memory/memory_code_pane.h"
+#include "memory/memory_environment.h"
 
 namespace brimwork {
 namespace {
@@ -102,9 +105,9 @@ std::string FaultInBlocks(const GeneratedModule& module) {
   return open.empty() ? "" : "never closed: " + open.back();
 }
 
-/// Names declared at the start of a line, Type and Enum members left out.
-std::vector<std::string> DeclaredNames(const GeneratedModule& module) {
-  std::vector<std::string> names;
+/// Procedures declared at the start of a line, Type and Enum members left out.
+std::vector<GeneratedProcedure> DeclaredProcedures(const GeneratedModule& module) {
+  std::vector<GeneratedProcedure> declared;
   Continues above = Continues::kNothing;
   bool inType = false;
   for (const std::string_view line : LinesOf(module)) {
@@ -112,17 +115,22 @@ std::vector<std::string> DeclaredNames(const GeneratedModule& module) {
       inType = !ClosesTypeBlock(line);
     } else if (above == Continues::kNothing) {
       inType = OpensTypeBlock(line);
-      if (const auto declaration = ParseDeclaration(line)) names.emplace_back(declaration->name);
+      if (const auto found = ParseDeclaration(line)) {
+        declared.push_back({std::string(found->name), std::string(found->word), found->kind});
+      }
     }
     above = ContinuedBelow(line, above);
   }
-  return names;
+  return declared;
 }
 
-std::vector<std::string> ListedNames(const GeneratedModule& module) {
-  std::vector<std::string> names;
-  for (const GeneratedProcedure& procedure : module.procedures) names.push_back(procedure.name);
-  return names;
+/// The module as "Indent All Procedures" leaves it.
+std::string Indented(const GeneratedModule& module) {
+  MemoryEnvironment environment;
+  const auto pane = environment.Open("Generated", ModuleText::FromText(module.text));
+  AddIn addIn(environment.Parts());
+  ButtonClicked(addIn, "Indent All Procedures", true);
+  return pane->Module()->Lines(1, pane->Module()->CountOfLines()) + "\r\n";
 }
 
 TEST(ModuleGenerator, GivesTheSameModuleForTheSameOptions) {
@@ -181,36 +189,30 @@ TEST(ModuleGenerator, ListsTheProceduresOfWellFormedCodeFromTheTopDown) {
   GeneratorOptions options;
   options.messy = options.continuations = options.lineNumbers = true;
   const GeneratedModule module = GenerateModule(options);
-  const std::vector<std::string> names = ListedNames(module);
-  EXPECT_THAT(DeclaredNames(module), ElementsAreArray(names));
-  EXPECT_EQ(std::set<std::string>(names.begin(), names.end()).size(), names.size());
+  EXPECT_THAT(DeclaredProcedures(module), ElementsAreArray(module.procedures));
+}
+
+TEST(ModuleGenerator, GivesEachProcedureOfWellFormedCodeANameOfItsOwn) {
+  const GeneratedModule module = GenerateModule({});
+  std::set<std::string> names;
+  for (const GeneratedProcedure& procedure : module.procedures) names.insert(procedure.name);
+  EXPECT_EQ(names.size(), module.procedures.size());
 }
 
 TEST(ModuleGenerator, ListsTheProceduresOfOddCodeFromTheTopDown) {
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {
     const GeneratedModule module = GenerateModule(AllOptions(seed));
-    std::vector<std::string> declared = DeclaredNames(module);
+    std::vector<GeneratedProcedure> declared = DeclaredProcedures(module);
     // Only the second of two alternative heads is declared without being listed.
-    for (const std::string& name : ListedNames(module)) {
-      const auto at = std::find(declared.begin(), declared.end(), name);
-      ASSERT_NE(at, declared.end()) << name << ", seed " << seed;
-      ASSERT_TRUE(at - declared.begin() <= 1) << name << " is out of order, seed " << seed;
+    for (const GeneratedProcedure& procedure : module.procedures) {
+      const auto at = std::find_if(declared.begin(), declared.end(), [&](const auto& other) {
+        return other.name == procedure.name && other.kind == procedure.kind;
+      });
+      ASSERT_NE(at, declared.end()) << procedure.name << ", seed " << seed;
+      ASSERT_LE(at - declared.begin(), 1) << procedure.name << " is out of order, seed " << seed;
       declared.erase(declared.begin(), at + 1);
     }
-    EXPECT_LE(declared.size(), 1U);
-  }
-}
-
-TEST(ModuleGenerator, TellsTheKindOfEachProcedure) {
-  GeneratorOptions options;
-  const GeneratedModule module = GenerateModule(options);
-  for (const GeneratedProcedure& procedure : module.procedures) {
-    const auto at = module.text.find(" " + procedure.name + "(");
-    const auto start = module.text.rfind('\n', at) + 1;
-    const auto declaration = ParseDeclaration(std::string_view(module.text).substr(start));
-    ASSERT_TRUE(declaration) << procedure.name;
-    EXPECT_EQ(declaration->word, procedure.word);
-    EXPECT_EQ(declaration->kind, procedure.kind);
+    EXPECT_LE(declared.size(), 1U) << "seed " << seed;
   }
 }
 
@@ -235,6 +237,16 @@ TEST(ModuleGenerator, WritesTidyCodeUnlessTold) {
   EXPECT_THAT(GenerateModule(options).text, HasSubstr("\t"));
 }
 
+TEST(ModuleGenerator, LaysTidyCodeOutAsTheIndenterDoes) {
+  for (unsigned seed = 1; seed <= kSeeds; ++seed) {
+    GeneratorOptions options;
+    options.seed = seed;
+    options.continuations = seed % 2 == 1;
+    const GeneratedModule module = GenerateModule(options);
+    EXPECT_EQ(Indented(module), module.text) << "seed " << seed;
+  }
+}
+
 TEST(ModuleGenerator, NumbersLinesOnlyWhenTold) {
   GeneratorOptions options;
   EXPECT_THAT(GenerateModule(options).text, Not(HasSubstr("\r\n10:    ")));
@@ -247,7 +259,7 @@ TEST(ModuleGenerator, WritesEveryOddityWithinAFewModules) {
   std::string all;
   for (unsigned seed = 1; seed <= kSeeds; ++seed) all += GenerateModule(AllOptions(seed)).text;
   for (const std::string_view oddity :
-       {"Rem", "#If DEBUGGING Then", "Property Set ", "(): total = 1: End Sub",
+       {"Rem", "#If DEBUGGING Then", "Property Set ", ": total = 1: End Property",
         "' End Sub is missing below", "#Else", "' End Sub is not the end here",
         "\"End Sub: Loop ' Next\"", "Retry:", "    Sub As Long", "SHELFÄÖÜ", "Shelfäöü", "end sub",
         "EndGame", "PrüfeGröße", "public  static\tFunction", "' that is the End"}) {

@@ -15,9 +15,7 @@ Writer::Writer(const GeneratorOptions& options) : options_(options), random_(opt
   if (options.lines > 0) text_.reserve(static_cast<std::size_t>(options.lines) * kBytesPerLine);
 }
 
-void Writer::StartProcedure() {
-  label_ = options_.lineNumbers && OneIn(2) ? 0 : -1;
-}
+void Writer::StartProcedure() { label_ = options_.lineNumbers && OneIn(2) ? 0 : -1; }
 
 void Writer::Line(std::string_view text) {
   WriteIndent();

@@ -1,0 +1,33 @@
+// A variable of the process for the life of a test, put back afterwards.
+#pragma once
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+namespace brimwork {
+
+class ScopedVariable {
+ public:
+  /// nullopt: the variable is not set.
+  ScopedVariable(const char* name, const std::optional<std::string>& value) : name_(name) {
+    if (const char* old = std::getenv(name)) old_ = old;
+    Set(value);
+  }
+  ~ScopedVariable() { Set(old_); }
+  ScopedVariable(const ScopedVariable&) = delete;
+  ScopedVariable& operator=(const ScopedVariable&) = delete;
+
+ private:
+  void Set(const std::optional<std::string>& value) {
+    if (value)
+      ::setenv(name_, value->c_str(), 1);
+    else
+      ::unsetenv(name_);
+  }
+
+  const char* name_;
+  std::optional<std::string> old_;
+};
+
+}  // namespace brimwork
