@@ -1,0 +1,278 @@
+#include "memory/json_settings_area.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <vector>
+
+#include "support/json_settings_fixture.h"
+#include "support/scoped_variable.h"
+#include "support/temporary_folder.h"
+
+namespace brimwork {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kApplication = "Brimwork";
+constexpr const char* kSection = "Settings";
+
+struct JsonSettingsAreaTest : JsonSettingsFixture {};
+
+TEST_F(JsonSettingsAreaTest, AMissingFileIsAnEmptyStore) {
+  EXPECT_EQ(Get("Header"), "default");
+  EXPECT_EQ(area.AllSettings(kApplication, kSection), SettingValues());
+  EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(JsonSettingsAreaTest, AValueSavedIsReadByAnyoneElse) {
+  Save("Header", "'one\r\n'two \"Größe\"\t€");
+  JsonSettingsArea other(file);
+  EXPECT_EQ(other.GetSetting(kApplication, kSection, "Header", ""), "'one\r\n'two \"Größe\"\t€");
+  EXPECT_EQ(
+      nlohmann::json::parse(ReadBytes(file)),
+      (nlohmann::json{{"Brimwork", {{"Settings", {{"Header", "'one\r\n'two \"Größe\"\t€"}}}}}}));
+}
+
+TEST_F(JsonSettingsAreaTest, AStoredEmptyTextIsAValue) {
+  Save("Header", "");
+  EXPECT_EQ(Get("Header"), "");
+}
+
+TEST_F(JsonSettingsAreaTest, ListsWhatIsStored) {
+  Save("B", "2");
+  Save("A", "1");
+  EXPECT_EQ(area.AllSettings(kApplication, kSection), (SettingValues{{"A", "1"}, {"B", "2"}}));
+  EXPECT_EQ(area.AllSettings(kApplication, "Other"), SettingValues());
+}
+
+TEST_F(JsonSettingsAreaTest, TheFileIsTextThatPeopleCanRead) {
+  Save("AutoLoad", "True");
+  EXPECT_EQ(ReadBytes(file),
+            "{\n  \"Brimwork\": {\n    \"Settings\": {\n      \"AutoLoad\": \"True\"\n    }\n  "
+            "}\n}\n");
+}
+
+TEST_F(JsonSettingsAreaTest, UnknownContentOfTheFileIsKeptInItsOrder) {
+  Store(R"({"z": [1, {"a": null}], "Brimwork": {"Windows": {"Left": 4}, "Note": "mine",
+            "Settings": {"Zeta": "1", "Colour": "red"}}, "a": true})");
+  Save("Header", "x");
+  EXPECT_EQ(nlohmann::ordered_json::parse(ReadBytes(file)).dump(),
+            R"({"z":[1,{"a":null}],"Brimwork":{"Windows":{"Left":4},"Note":"mine",)"
+            R"("Settings":{"Zeta":"1","Colour":"red","Header":"x"}},"a":true})");
+}
+
+TEST_F(JsonSettingsAreaTest, ApplicationsAndSectionsAreKeptApart) {
+  area.SaveSetting("Other", kSection, "Header", "other");
+  area.SaveSetting(kApplication, "Windows", "Header", "windows");
+  EXPECT_EQ(Get("Header"), "default");
+}
+
+TEST_F(JsonSettingsAreaTest, AFileWithAByteOrderMarkIsRead) {
+  Store("\xEF\xBB\xBF{\"Brimwork\": {\"Settings\": {\"Header\": \"x\"}}}");
+  EXPECT_EQ(Get("Header"), "x");
+}
+
+TEST_F(JsonSettingsAreaTest, SavingAnEqualValueDoesNotWrite) {
+  Store(R"({"Brimwork":{"Settings":{"Header":"x"}}})");
+  Save("Header", "x");
+  EXPECT_EQ(ReadBytes(file), R"({"Brimwork":{"Settings":{"Header":"x"}}})");
+}
+
+TEST_F(JsonSettingsAreaTest, AValueThatIsNotUtf8IsNotStored) {
+  Save("Header", "x");
+  const std::string before = ReadBytes(file);
+  EXPECT_EQ(Error([&] { Save("Separator", "'\xE4"); }),
+            file.string() + ": nothing was stored: the value for \"Separator\" is not UTF-8");
+  EXPECT_EQ(ReadBytes(file), before);
+}
+
+TEST_F(JsonSettingsAreaTest, AFolderInTheFilesPlaceIsRefused) {
+  fs::create_directory(file);
+  EXPECT_EQ(Error([&] { Get("Header"); }),
+            file.string() + ": the settings file cannot be read: Is a directory");
+  EXPECT_EQ(Error([&] { Save("Header", "x"); }),
+            file.string() + ": the settings file cannot be read: Is a directory");
+}
+
+TEST_F(JsonSettingsAreaTest, APipeInTheFilesPlaceIsRefusedWithoutWaiting) {
+  ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+  EXPECT_EQ(
+      Error([&] { Get("Header"); }),
+      file.string() + ": the settings file cannot be read: it is no plain file: Invalid argument");
+}
+
+TEST_F(JsonSettingsAreaTest, AFileInAFoldersPlaceIsAnEmptyStoreThatCannotBeSavedTo) {
+  WriteBytes(folder / "plain", "");
+  JsonSettingsArea below(folder / "plain/settings.json");
+  EXPECT_EQ(below.GetSetting(kApplication, kSection, "Header", "default"), "default");
+  EXPECT_THAT(Error([&] { below.SaveSetting(kApplication, kSection, "Header", "x"); }),
+              testing::StartsWith((folder / "plain/settings.json").string() +
+                                  ": the settings file cannot be reached: "));
+}
+
+TEST_F(JsonSettingsAreaTest, MissingFoldersAreMade) {
+  JsonSettingsArea deep(folder / "a/b/settings.json");
+  deep.SaveSetting(kApplication, kSection, "Header", "x");
+  EXPECT_EQ(deep.GetSetting(kApplication, kSection, "Header", ""), "x");
+}
+
+TEST_F(JsonSettingsAreaTest, ANewFileIsForItsUserAlone) {
+  Save("Header", "x");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+}
+
+TEST_F(JsonSettingsAreaTest, ThePermissionsOfTheFileAreKept) {
+  Save("Header", "x");
+  fs::permissions(file, fs::perms(0644));
+  Save("Header", "y");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+  EXPECT_EQ(Get("Header"), "y");
+}
+
+TEST_F(JsonSettingsAreaTest, NothingButTheFileAndItsLockIsLeftBehind) {
+  Save("Header", "x");
+  Save("Header", "y");
+  EXPECT_THAT(Leftovers(), testing::IsEmpty());
+}
+
+TEST_F(JsonSettingsAreaTest, AReadOnlyFileStaysAsItIs) {
+  if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write read-only files";
+  Save("Header", "x");
+  fs::permissions(file, fs::perms(0400));
+  EXPECT_EQ(Error([&] { Save("Header", "y"); }),
+            file.string() + ": the settings file cannot be written: Permission denied");
+  EXPECT_EQ(Get("Header"), "x");
+}
+
+/// Lets no file grow beyond a size while it lives, which looks to a writer like a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limited{bytes, old_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, oldHandler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit old_{};
+  void (*oldHandler_)(int);
+};
+
+TEST_F(JsonSettingsAreaTest, AFileThatCannotBeWrittenWholeStaysAsItIs) {
+  Save("Header", "x");
+  std::string error;
+  {
+    const FileSizeLimit limit(100);
+    error = Error([&] { Save("Header", std::string(1000, 'y')); });
+  }
+  EXPECT_EQ(error, file.string() + ": the settings file cannot be written: File too large");
+  EXPECT_EQ(Get("Header"), "x");
+  EXPECT_THAT(Leftovers(), testing::IsEmpty());
+}
+
+TEST_F(JsonSettingsAreaTest, ALinkIsWrittenThrough) {
+  fs::create_directory(folder / "real");
+  fs::create_symlink("real/own.json", file);
+  Save("Header", "x");
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / "real/own.json")));
+  Save("Header", "y");
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_EQ(Get("Header"), "y");
+}
+
+TEST_F(JsonSettingsAreaTest, LinksThatGoInACircleAreRefused) {
+  fs::create_symlink("settings.json", file);
+  EXPECT_EQ(
+      Error([&] { Save("Header", "x"); }),
+      file.string() + ": the settings file cannot be found: Too many levels of symbolic links");
+}
+
+/// One process of the test below; returns its exit code.
+int SaveKeys(const fs::path& file, int process, int count) {
+  try {
+    JsonSettingsArea area(file);
+    for (int i = 0; i < count; ++i) {
+      const std::string key = "Key" + std::to_string(process) + "x" + std::to_string(i);
+      area.SaveSetting(kApplication, kSection, key, key + "!");
+    }
+    return 0;
+  } catch (...) {
+    return 1;
+  }
+}
+
+TEST_F(JsonSettingsAreaTest, ProcessesThatSaveAtTheSameTimeLoseNothing) {
+  constexpr int kProcesses = 8;
+  constexpr int kKeys = 25;
+  std::vector<pid_t> children;
+  for (int process = 0; process < kProcesses; ++process) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) ::_exit(SaveKeys(file, process, kKeys));
+    children.push_back(child);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  }
+  const SettingValues values = area.AllSettings(kApplication, kSection);
+  EXPECT_EQ(values.size(), kProcesses * kKeys);
+  for (const auto& [key, value] : values) EXPECT_EQ(value, key + "!");
+  EXPECT_THAT(Leftovers(), testing::IsEmpty());
+}
+
+TEST(DefaultSettingsPath, IsTheFileNamedByTheUserFirst) {
+  const ScopedVariable named("BRIMWORK_SETTINGS", "/etc/mine.json");
+  EXPECT_EQ(DefaultSettingsPath(), "/etc/mine.json");
+}
+
+TEST(DefaultSettingsPath, IsElseInTheConfigurationFolder) {
+  const ScopedVariable named("BRIMWORK_SETTINGS", "");
+  const ScopedVariable home("HOME", "/home/ann");
+  const ScopedVariable config("XDG_CONFIG_HOME", "/conf");
+  EXPECT_EQ(DefaultSettingsPath(), "/conf/brimwork/settings.json");
+}
+
+TEST(DefaultSettingsPath, IsElseBelowTheHomeFolder) {
+  const ScopedVariable named("BRIMWORK_SETTINGS", std::nullopt);
+  const ScopedVariable home("HOME", "/home/ann");
+  for (const char* unusable : {"", "relative/conf"}) {
+    const ScopedVariable config("XDG_CONFIG_HOME", unusable);
+    EXPECT_EQ(DefaultSettingsPath(), "/home/ann/.config/brimwork/settings.json");
+  }
+}
+
+TEST(DefaultSettingsPath, WithoutAnyFolderTheStoreIsEmptyAndCannotBeSavedTo) {
+  const ScopedVariable named("BRIMWORK_SETTINGS", std::nullopt);
+  const ScopedVariable home("HOME", std::nullopt);
+  const ScopedVariable config("XDG_CONFIG_HOME", std::nullopt);
+  JsonSettingsArea area;
+  EXPECT_EQ(area.GetSetting(kApplication, kSection, "Header", "default"), "default");
+  try {
+    area.SaveSetting(kApplication, kSection, "Header", "x");
+    FAIL() << "no error";
+  } catch (const SettingsFileError& error) {
+    EXPECT_STREQ(error.what(),
+                 "there is no place for the settings file: set BRIMWORK_SETTINGS or HOME");
+  }
+}
+
+}  // namespace
+}  // namespace brimwork
