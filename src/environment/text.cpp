@@ -98,14 +98,6 @@ void AppendUtf8(std::string& out, char32_t c) {
 
 }  // namespace
 
-bool StartsWithIgnoringCase(std::string_view text, std::string_view upperCasePrefix) {
-  if (text.size() < upperCasePrefix.size()) return false;
-  for (std::size_t i = 0; i < upperCasePrefix.size(); ++i) {
-    if (ToUpperAscii(text[i]) != upperCasePrefix[i]) return false;
-  }
-  return true;
-}
-
 std::string FoldName(std::string_view name) {
   std::string folded;
   folded.reserve(name.size());

@@ -50,7 +50,13 @@ constexpr char ToUpperAscii(char c) {
 }
 
 /// True when text starts with upperCasePrefix, ASCII letters of text in any case.
-bool StartsWithIgnoringCase(std::string_view text, std::string_view upperCasePrefix);
+constexpr bool StartsWithIgnoringCase(std::string_view text, std::string_view upperCasePrefix) {
+  if (text.size() < upperCasePrefix.size()) return false;
+  for (std::size_t i = 0; i < upperCasePrefix.size(); ++i) {
+    if (ToUpperAscii(text[i]) != upperCasePrefix[i]) return false;
+  }
+  return true;
+}
 
 /// Compares two names as Visual Basic does: without regard to case, accented Latin, Greek and
 /// Cyrillic letters included.

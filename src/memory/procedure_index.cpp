@@ -125,7 +125,8 @@ const ProcedureIndex::Procedure* ProcedureIndex::FirstNamed(const ModuleText& te
 }
 
 std::string_view ProcedureIndex::NameOf(const ModuleText& text, const Procedure& procedure) {
-  return ParseDeclaration(text.Line(procedure.body))->name;
+  const std::string_view line = text.Line(procedure.body);
+  return line.substr(line.size() - procedure.nameFromEnd, procedure.nameSize);
 }
 
 void ProcedureIndex::NoteEdit(int firstLine) {
@@ -147,7 +148,10 @@ bool ProcedureIndex::ScanNext(const ModuleText& text) {
   if (entries_.empty()) declarationLines_ = cursor.LastCodeLineAbove();
   entry.start = entries_.empty() ? declarationLines_ + 1 : first;
   entry.body = cursor.LineNumber();
-  entry.kind = cursor.DeclarationHere()->kind;
+  const Declaration declaration = *cursor.DeclarationHere();
+  entry.kind = declaration.kind;
+  entry.nameFromEnd = static_cast<std::uint32_t>(cursor.Text().end() - declaration.name.begin());
+  entry.nameSize = static_cast<std::uint32_t>(declaration.name.size());
   const Ending ending = FindEnding(text, cursor);
   entry.end = ending.line;
   entry.dependsOnLine = ending.dependsOnLine;

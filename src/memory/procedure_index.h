@@ -21,6 +21,10 @@ class ProcedureIndex {
     int body = 0;   // line of the declaration
     int end = 0;    // last line
     ProcKind kind = ProcKind::kProcedure;
+
+    // Where the name stands in the declaration, from the line's end: an indent leaves that alone.
+    std::uint32_t nameFromEnd = 0;
+    std::uint32_t nameSize = 0;
   };
 
   /// The last line above the first declaration that is neither blank nor comment; all lines when

@@ -1,0 +1,199 @@
+#include "cli/app.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <string>
+
+#include "cli/app_options.h"
+#include "cli/command_request.h"
+#include "cli/commands_list.h"
+#include "cli/console.h"
+#include "cli/run_files.h"
+#include "cli/settings_command.h"
+
+namespace brimwork {
+namespace {
+
+constexpr const char* kDescription =
+    "Tools for Visual Basic 6 source code: indenting, line numbers, error handling,\n"
+    "comments and headers, on files, folders, projects (.vbp) and groups (.vbg).";
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  brimwork indent Module1.bas              print the indented file\n"
+    "  brimwork cleanup --write Shop.vbp        clean up every module of a project\n"
+    "  brimwork indent --check src/             exit with 1 when a file would change\n"
+    "  brimwork number --diff Form1.frm         show what would change\n"
+    "  brimwork run \"Comment Procedure\" --line 40 Module1.bas\n"
+    "\n"
+    "Exit codes: 0 done, 1 --check found something to change, 2 an error.";
+
+struct SubcommandText {
+  const char* name;
+  const char* description;
+  const char* examples;
+};
+
+constexpr SubcommandText kFriendlyCommands[] = {
+    {"cleanup", "Run the clean-up steps over the whole module",
+     "Examples:\n"
+     "  brimwork cleanup --diff Shop.vbp\n"
+     "  brimwork cleanup --steps Indent,Comment --write Module1.bas\n"
+     "\n"
+     "Steps: Header, Error, Indent, Comment, LineNumber. Without --steps, those of the\n"
+     "setting CleanUpCodeOptions."},
+    {"indent", "Re-indent every procedure",
+     "Examples:\n"
+     "  brimwork indent --write --tab-width 2 Module1.bas\n"
+     "  brimwork indent - < Module1.bas"},
+    {"number", "Put line numbers in front of the statements of every procedure",
+     "Examples:\n"
+     "  brimwork number --write Module1.bas\n"
+     "  brimwork number --procedure Form_Load Form1.frm"},
+    {"unnumber", "Take line numbers away",
+     "Examples:\n"
+     "  brimwork unnumber --write Module1.bas\n"
+     "  brimwork unnumber --line 40 Module1.bas"},
+    {"comment", "Put separator lines around procedures and label their closing lines",
+     "Examples:\n"
+     "  brimwork comment --diff Module1.bas\n"
+     "  brimwork comment --procedure Form_Load Form1.frm"},
+    {"error-handling", "Insert the error handler of the settings into procedures",
+     "Examples:\n"
+     "  brimwork error-handling --procedure Save --diff Module1.bas\n"
+     "  brimwork error-handling --set ErrorHandling=\"MsgBox Err.Description\" Module1.bas"},
+    {"header", "Insert the module header of the settings at the top",
+     "Examples:\n"
+     "  brimwork header --write Module1.bas\n"
+     "  brimwork header --adapted --now 2026-11-21 Module1.bas"},
+    {"timestamp", "Insert a comment with the date and time",
+     "Examples:\n"
+     "  brimwork timestamp --line 12 Module1.bas             behind the text of line 12\n"
+     "  brimwork timestamp --line 12 --column 1 Module1.bas"},
+};
+
+/// Everything that one parse of the command line leaves behind.
+struct ParsedLine {
+  AppOptions options;
+  std::string caption;
+  std::string settingKey;
+  std::string settingValue;
+};
+
+void AddRun(CLI::App& app, ParsedLine& line) {
+  CLI::App* run = app.add_subcommand("run", "Run a command by its caption");
+  run->add_option("caption", line.caption, "Caption, as \"brimwork commands\" lists it")
+      ->required()
+      ->type_name("CAPTION");
+  AddRunOptions(*run, line.options);
+  AddPlaceOptions(*run, line.options);
+  run->footer(
+      "Examples:\n"
+      "  brimwork run \"Indent All Procedures\" Module1.bas\n"
+      "  brimwork run \"Add Line Numbers\" --procedure Main --write Module1.bas");
+}
+
+void AddFriendlyCommand(CLI::App& app, ParsedLine& line, const SubcommandText& text) {
+  CLI::App* command = app.add_subcommand(text.name, text.description);
+  AddRunOptions(*command, line.options);
+  const std::string name = text.name;
+  if (name == "header") {
+    command->add_flag("--adapted", line.options.adapted, "The header for adapted code");
+  } else if (name == "cleanup") {
+    command->add_option("--steps", line.options.steps, "Steps of this run, joined by commas")
+        ->type_name("STEP,...");
+  } else if (name != "indent") {
+    AddPlaceOptions(*command, line.options);
+  }
+  command->footer(text.examples);
+}
+
+void AddSettings(CLI::App& app, ParsedLine& line) {
+  CLI::App* settings = app.add_subcommand("settings", "List, read and store the settings");
+  settings->require_subcommand(1);
+  settings->footer(
+      "Examples:\n"
+      "  brimwork settings list\n"
+      "  brimwork settings set CleanUpCodeOptions Indent,Comment");
+  settings->add_subcommand("list", "Every key with its value")
+      ->footer("Example: brimwork settings list");
+  settings->add_subcommand("path", "The file that holds the settings")
+      ->footer("Example: brimwork settings path");
+  CLI::App* get = settings->add_subcommand("get", "The value of a key");
+  get->add_option("key", line.settingKey)->required()->type_name("KEY");
+  get->footer("Example: brimwork settings get Separator");
+  CLI::App* set = settings->add_subcommand("set", "Store the value of a key");
+  set->add_option("key", line.settingKey)->required()->type_name("KEY");
+  set->add_option("value", line.settingValue)->required()->type_name("VALUE");
+  set->footer("Example: brimwork settings set SplashScreen False");
+}
+
+void DefineCommandLine(CLI::App& app, ParsedLine& line) {
+  app.description(kDescription);
+  app.footer(kExamples);
+  app.set_version_flag("--version", "brimwork " BRIMWORK_VERSION);
+  app.require_subcommand(1);
+  AddRun(app, line);
+  for (const SubcommandText& text : kFriendlyCommands) AddFriendlyCommand(app, line, text);
+  app.add_subcommand("commands", "List every command of the catalogue")
+      ->footer("Example: brimwork commands");
+  AddSettings(app, line);
+}
+
+void RunSettings(const CLI::App& settings, const ParsedLine& line, Console& console) {
+  if (settings.got_subcommand("list")) ListSettings(console);
+  if (settings.got_subcommand("path")) PrintSettingsPath(console);
+  if (settings.got_subcommand("get")) PrintSetting(console, line.settingKey);
+  if (settings.got_subcommand("set")) StoreSetting(console, line.settingKey, line.settingValue);
+}
+
+std::string CaptionAskedFor(const std::string& command, const ParsedLine& line) {
+  if (command == "run") return line.caption;
+  if (command == "header" && line.options.adapted) return "Adapted Header";
+  if (command == "comment" && line.options.place.IsGiven()) return "Comment Procedure";
+  return std::string(CaptionOf(command));
+}
+
+int RunSubcommand(const CLI::App& app, const ParsedLine& line, Console& console) {
+  const CLI::App& subcommand = *app.get_subcommands().front();
+  const std::string name = subcommand.get_name();
+  if (name == "commands") {
+    console.Out(CommandsTable());
+    return exit_code::kDone;
+  }
+  if (name == "settings") {
+    RunSettings(subcommand, line, console);
+    return exit_code::kDone;
+  }
+  return RunFiles(MakeRunOptions(CaptionAskedFor(name, line), line.options), console);
+}
+
+/// Help and version are printed and done; anything else is one line on standard error.
+int TellParseError(const CLI::App& app, const CLI::ParseError& error, Console& console) {
+  if (error.get_exit_code() == 0) return app.exit(error);
+  console.Error(std::string(error.what()) + " (\"brimwork --help\" shows how)");
+  return exit_code::kError;
+}
+
+}  // namespace
+
+int RunApp(int argc, const char* const* argv) {
+  CLI::App app("", "brimwork");
+  ParsedLine line;
+  DefineCommandLine(app, line);
+  Console plain(ColorChoice::kAuto, false, false);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return TellParseError(app, error, plain);
+  }
+  Console console(line.options.color, line.options.quiet, line.options.verbose);
+  try {
+    return RunSubcommand(app, line, console);
+  } catch (const std::exception& error) {
+    console.Error(error.what());
+    return exit_code::kError;
+  }
+}
+
+}  // namespace brimwork

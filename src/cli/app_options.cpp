@@ -1,0 +1,143 @@
+#include "cli/app_options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <map>
+#include <string_view>
+#include <thread>
+
+#include "cli/near_miss.h"
+#include "cli/settings_command.h"
+#include "environment/text.h"
+#include "memory/json_settings_area.h"
+#include "memory/locale_clock.h"
+#include "settings/setting_keys.h"
+#include "settings/settings.h"
+
+namespace brimwork {
+namespace {
+
+constexpr int kWidestTab = 32;
+constexpr int kMostJobs = 256;
+
+constexpr std::array<std::string_view, 6> kSteps{"Header",  "Error",      "Indent",
+                                                 "Comment", "LineNumber", "SpellCheck"};
+
+/// The step as the setting spells it.
+std::string_view CheckedStep(std::string_view word) {
+  const auto step =
+      std::ranges::find_if(kSteps, [&](std::string_view known) { return EqualNames(known, word); });
+  if (step != kSteps.end()) return *step;
+  throw UsageError("--steps: there is no step \"" + std::string(word) + '"' +
+                   NearMissHint(word, kSteps) +
+                   "; the steps are Header, Error, Indent, Comment, LineNumber and SpellCheck");
+}
+
+std::string CheckedSteps(const std::string& steps) {
+  std::string checked;
+  for (const std::string_view word : Split(steps, ",")) {
+    if (Trim(word).empty()) continue;
+    if (!checked.empty()) checked += ',';
+    checked += CheckedStep(Trim(word));
+  }
+  return checked;
+}
+
+void TakeSetting(SettingValues& settings, const std::string& assignment) {
+  const auto equals = assignment.find('=');
+  if (equals == std::string::npos) {
+    throw UsageError("--set " + assignment + ": write it as KEY=VALUE");
+  }
+  settings[CheckedSettingKey(assignment.substr(0, equals))] =
+      WithCrLf(assignment.substr(equals + 1));
+}
+
+SettingValues SettingsOfRun(const AppOptions& options) {
+  SettingValues settings = JsonSettingsArea().AllSettings(kApplicationTitle, kSettingsSection);
+  for (const std::string& assignment : options.settings) TakeSetting(settings, assignment);
+  if (options.steps)
+    settings[std::string(setting::kCleanUpCodeOptions)] = CheckedSteps(*options.steps);
+  return settings;
+}
+
+int JobsOf(const AppOptions& options) {
+  return options.jobs.value_or(std::max(1, static_cast<int>(std::thread::hardware_concurrency())));
+}
+
+}  // namespace
+
+void AddRunOptions(CLI::App& command, AppOptions& options) {
+  command
+      .add_option("files", options.paths,
+                  "Source files, folders, projects (.vbp), groups (.vbg), or - for standard input")
+      ->type_name("FILE");
+  command.add_flag("-w,--write", options.write, "Write the result back to the files")
+      ->group("Modes");
+  command
+      .add_flag("--check", options.check, "List the files that would change, exit with 1 if any")
+      ->group("Modes");
+  command.add_flag("--diff", options.diff, "Show the changes as a unified diff")->group("Modes");
+  command.add_option("--set", options.settings, "A setting for this run only (repeatable)")
+      ->type_name("KEY=VALUE")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  command.add_option("--tab-width", options.tabWidth, "Blanks of one indent (4)")
+      ->check(CLI::Range(0, kWidestTab))
+      ->type_name("N");
+  command.add_option("--now", options.now, "The date and time of stamps, 2026-11-21T10:20:30")
+      ->type_name("TIME");
+  command.add_option("--encoding", options.encoding, "Encoding of files without a byte-order mark")
+      ->type_name("NAME")
+      ->capture_default_str();
+  command.add_option("--stdin-filename", options.stdinFileName, "The path that - stands for")
+      ->type_name("PATH");
+  command.add_option("--jobs", options.jobs, "Files worked on at a time (one a processor)")
+      ->check(CLI::Range(1, kMostJobs))
+      ->type_name("N");
+  const std::map<std::string, ColorChoice> choices{{"auto", ColorChoice::kAuto},
+                                                   {"always", ColorChoice::kAlways},
+                                                   {"never", ColorChoice::kNever}};
+  command.add_option("--color", options.color, "Colours: auto, always or never")
+      ->transform(CLI::CheckedTransformer(choices))
+      ->type_name("WHEN");
+  command.add_flag("--unsafe", options.isUnsafe, "Write also what brimwork cannot vouch for");
+  command.add_flag("--no-warnings", options.noWarnings, "No warnings");
+  command.add_flag("-q,--quiet", options.quiet, "Errors and warnings only");
+  command.add_flag("-v,--verbose", options.verbose, "Also name the files that stay as they are");
+}
+
+void AddPlaceOptions(CLI::App& command, AppOptions& options) {
+  command.add_option("--line", options.place.line, "Only at this line of the file")
+      ->check(CLI::PositiveNumber)
+      ->type_name("N")
+      ->group("Place");
+  command.add_option("--column", options.place.column, "Column in that line (behind its text)")
+      ->check(CLI::PositiveNumber)
+      ->type_name("C")
+      ->group("Place");
+  command.add_option("--procedure", options.place.procedure, "Only in the procedures of this name")
+      ->type_name("NAME")
+      ->group("Place");
+}
+
+RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options) {
+  RunOptions run;
+  run.command = MakeCommandRequest(caption, options.place);
+  run.write = options.write;
+  run.check = options.check;
+  run.diff = options.diff;
+  run.isUnsafe = options.isUnsafe;
+  run.warnings = !options.noWarnings;
+  run.encoding = options.encoding;
+  run.tabWidth = options.tabWidth;
+  run.settings = SettingsOfRun(options);
+  run.now = ResolveNow(options.now);
+  run.dateLocale = DateLocaleName();
+  run.paths = options.paths;
+  run.stdinFileName = options.stdinFileName;
+  run.jobs = JobsOf(options);
+  return run;
+}
+
+}  // namespace brimwork

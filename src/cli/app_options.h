@@ -1,0 +1,48 @@
+// The options of a run as they are typed, and what they come to.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/console.h"
+#include "cli/run_options.h"
+
+namespace CLI {
+class App;
+}
+
+namespace brimwork {
+
+struct AppOptions {
+  std::vector<std::string> paths;
+  bool write = false;
+  bool check = false;
+  bool diff = false;
+  bool isUnsafe = false;
+  bool noWarnings = false;
+  bool quiet = false;
+  bool verbose = false;
+  bool adapted = false;
+  ColorChoice color = ColorChoice::kAuto;
+  std::string encoding = "WINDOWS-1252";
+  std::string stdinFileName;
+  std::optional<std::string> now;
+  std::optional<std::string> steps;
+  std::optional<int> tabWidth;
+  std::optional<int> jobs;
+  std::vector<std::string> settings;  // KEY=VALUE
+  PlaceRequest place;
+};
+
+/// The options that every command on files takes.
+void AddRunOptions(CLI::App& command, AppOptions& options);
+
+/// --line, --column and --procedure.
+void AddPlaceOptions(CLI::App& command, AppOptions& options);
+
+/// Reads the stored settings and the clock where the options leave them to the user's own. Throws
+/// UsageError, DateTimeError and SettingsFileError.
+RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options);
+
+}  // namespace brimwork

@@ -1,0 +1,91 @@
+#include "cli/command_request.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "cli/near_miss.h"
+#include "core/catalogue.h"
+#include "core/modButtonClicked.h"
+
+namespace brimwork {
+namespace {
+
+struct FriendlyName {
+  std::string_view name;
+  std::string_view caption;
+};
+
+constexpr FriendlyName kFriendlyNames[] = {
+    {"cleanup", "Code Clean Up"},
+    {"indent", "Indent All Procedures"},
+    {"number", "Add Line Numbers"},
+    {"unnumber", "Remove Line Numbers"},
+    {"comment", "Comment All Procedures"},
+    {"comment", "Comment Procedure"},
+    {"error-handling", "Insert Error Handling"},
+    {"header", "Standard Header"},
+    {"header --adapted", "Adapted Header"},
+    {"timestamp", "Insert Time Stamp"},
+};
+
+bool IsInCatalogue(std::string_view caption) {
+  return std::ranges::any_of(Catalogue(),
+                             [&](const CatalogueEntry& entry) { return entry.caption == caption; });
+}
+
+std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+
+std::string UnknownCaption(std::string_view caption) {
+  std::vector<std::string_view> captions;
+  for (const CatalogueEntry& entry : Catalogue()) captions.push_back(entry.caption);
+  return "there is no command " + Quoted(caption) + NearMissHint(caption, captions) +
+         "; \"brimwork commands\" lists them all";
+}
+
+/// A header goes to the top of the module wherever the caret stands.
+bool NeedsPlace(std::string_view caption) {
+  return caption != "Standard Header" && caption != "Adapted Header";
+}
+
+void CheckPlace(const PlaceRequest& place) {
+  if (place.line && place.procedure) {
+    throw UsageError("--line and --procedure name one place twice: give one of them");
+  }
+  if (place.column && !place.line) throw UsageError("--column needs --line");
+}
+
+}  // namespace
+
+CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& place) {
+  CheckPlace(place);
+  if (!IsInCatalogue(caption)) throw UsageError(UnknownCaption(caption));
+  const bool onModule = HasCommand(caption, true);
+  const bool atPlace = HasCommand(caption, false);
+  if (!onModule && !atPlace) {
+    throw UsageError("the command line has no command " + Quoted(caption) + " in this version");
+  }
+  if (place.IsGiven() && !atPlace) {
+    throw UsageError(Quoted(caption) +
+                     " works on the whole module: leave out --line and --procedure");
+  }
+  if (!place.IsGiven() && !onModule && NeedsPlace(caption)) {
+    throw UsageError(Quoted(caption) + " works at one place: give --line N or --procedure NAME");
+  }
+  return {std::string(caption), place, !place.IsGiven() && onModule};
+}
+
+std::string_view CaptionOf(std::string_view commandName) {
+  for (const FriendlyName& row : kFriendlyNames) {
+    if (row.name == commandName) return row.caption;
+  }
+  return {};
+}
+
+std::string_view CommandNameOf(std::string_view caption) {
+  for (const FriendlyName& row : kFriendlyNames) {
+    if (row.caption == caption) return row.name;
+  }
+  return {};
+}
+
+}  // namespace brimwork
