@@ -1,0 +1,195 @@
+#include "memory/project_file.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "environment/text.h"
+#include "memory/disk_file.h"
+#include "memory/listed_path.h"
+#include "memory/raw_line.h"
+#include "memory/source_text.h"
+
+namespace brimwork {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kModuleKeys[] = {
+    "Module", "Class", "Form", "UserControl", "PropertyPage", "UserDocument", "Designer"};
+constexpr std::string_view kGroupKeys[] = {"StartupProject", "Project"};
+constexpr std::string_view kSourceExtensions[] = {".bas", ".cls", ".frm", ".ctl",
+                                                  ".pag", ".dob", ".dsr"};
+
+template <typename Names>
+bool IsAmong(std::string_view name, const Names& names) {
+  return std::any_of(std::begin(names), std::end(names),
+                     [name](std::string_view each) { return EqualNames(each, name); });
+}
+
+struct KeyLine {
+  std::string_view key;
+  std::string_view value;
+  int line;
+};
+
+/// Calls visit for each `key=value` line above the first [section]: what stands in sections
+/// belongs to other tools.
+template <typename Visit>
+void ForEachKey(std::string_view text, Visit visit) {
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  for (int number = 1; !text.empty(); ++number) {
+    const std::string_view line = TrimBlanksAndTabs(TakeLine(text).text);
+    if (line.starts_with('[')) return;
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) continue;
+    visit(KeyLine{TrimBlanksAndTabs(line.substr(0, equals)),
+                  TrimBlanksAndTabs(line.substr(equals + 1)), number});
+  }
+}
+
+std::string_view Unquoted(std::string_view value) {
+  if (value.size() < 2 || !value.starts_with('"') || !value.ends_with('"')) return value;
+  return value.substr(1, value.size() - 2);
+}
+
+/// The path in `Name; path` or `path`.
+std::string_view PathIn(std::string_view value) {
+  value = Unquoted(value);
+  const auto semicolon = value.find(';');
+  if (semicolon != std::string_view::npos) value.remove_prefix(semicolon + 1);
+  return Unquoted(TrimBlanksAndTabs(value));
+}
+
+fs::path FolderOf(const std::string& path) { return fs::path(path).parent_path(); }
+
+ListedFile Listed(const KeyLine& line, const fs::path& folder) {
+  const std::string_view listedAs = PathIn(line.value);
+  const ResolvedPath resolved = ResolveListedPath(folder, listedAs);
+  return {std::string(listedAs), resolved.path.string(), resolved.outside, line.line};
+}
+
+std::string ReadText(const std::string& path, const std::string& encoding) {
+  return DecodeSource(ReadWholeFile(path).bytes, path, encoding).text;
+}
+
+std::string NameIn(std::string_view text, const std::string& path) {
+  std::string name;
+  ForEachKey(text, [&](const KeyLine& line) {
+    if (EqualNames(line.key, "Name")) name = Unquoted(line.value);
+  });
+  return name.empty() ? fs::path(path).stem().string() : name;
+}
+
+/// Project files of a folder, sorted; none when it cannot be listed.
+std::vector<std::string> ProjectsIn(const fs::path& folder) {
+  std::vector<std::string> projects;
+  std::error_code ignored;
+  const fs::path listed = folder.empty() ? fs::path(".") : folder;
+  for (fs::directory_iterator entry(listed, ignored), end; entry != end; entry.increment(ignored)) {
+    if (EqualNames(entry->path().extension().string(), ".vbp"))
+      projects.push_back(entry->path().string());
+  }
+  std::sort(projects.begin(), projects.end());
+  return projects;
+}
+
+bool NamesFile(std::string_view text, const fs::path& folder, const fs::path& source) {
+  const std::string fileName = source.filename().string();
+  bool found = false;
+  ForEachKey(text, [&](const KeyLine& line) {
+    if (found || !IsAmong(line.key, kModuleKeys)) return;
+    // Looking for a file on the disk costs more than comparing names.
+    if (!EqualNames(ListedFileName(PathIn(line.value)), fileName)) return;
+    std::error_code ignored;
+    found = fs::equivalent(Listed(line, folder).path, source, ignored);
+  });
+  return found;
+}
+
+class SourceFileSearch {
+ public:
+  explicit SourceFileSearch(const std::function<void(const SourceError&)>& report)
+      : report_(report) {}
+
+  void Search(const fs::path& folder) {
+    std::error_code error;
+    fs::directory_iterator entry(folder, error);
+    if (error) throw SourceError(folder.string(), "cannot list the folder: " + error.message());
+    for (const fs::directory_iterator end; entry != end;) {
+      Take(*entry);
+      entry.increment(error);
+      if (error) throw SourceError(folder.string(), "cannot list the folder: " + error.message());
+    }
+  }
+
+  std::vector<std::string> Sorted() {
+    std::sort(files_.begin(), files_.end());
+    return std::move(files_);
+  }
+
+ private:
+  void Take(const fs::directory_entry& entry) {
+    std::error_code ignored;
+    const std::string name = entry.path().filename().string();
+    if (entry.is_directory(ignored)) {
+      if (name.starts_with('.') || entry.is_symlink(ignored)) return;
+      try {
+        Search(entry.path());
+      } catch (const SourceError& error) {
+        report_(error);
+      }
+    } else if (IsSourceFileName(name)) {
+      files_.push_back(entry.path().string());
+    }
+  }
+
+  const std::function<void(const SourceError&)>& report_;
+  std::vector<std::string> files_;
+};
+
+}  // namespace
+
+Project ReadProject(const std::string& path, const std::string& encoding) {
+  const std::string text = ReadText(path, encoding);
+  Project project{NameIn(text, path), path, {}};
+  const fs::path folder = FolderOf(path);
+  ForEachKey(text, [&](const KeyLine& line) {
+    if (IsAmong(line.key, kModuleKeys)) project.modules.push_back(Listed(line, folder));
+  });
+  return project;
+}
+
+std::vector<ListedFile> ReadProjectGroup(const std::string& path, const std::string& encoding) {
+  const std::string text = ReadText(path, encoding);
+  std::vector<ListedFile> projects;
+  ForEachKey(text, [&](const KeyLine& line) {
+    if (IsAmong(line.key, kGroupKeys)) projects.push_back(Listed(line, FolderOf(path)));
+  });
+  return projects;
+}
+
+bool IsSourceFileName(std::string_view path) {
+  return IsAmong(fs::path(path).extension().string(), kSourceExtensions);
+}
+
+std::vector<std::string> FindSourceFiles(const std::string& folder,
+                                         const std::function<void(const SourceError&)>& report) {
+  SourceFileSearch search(report);
+  search.Search(folder);
+  return search.Sorted();
+}
+
+std::string ProjectNameFor(const std::string& sourcePath, const std::string& encoding) {
+  const fs::path folder = FolderOf(sourcePath);
+  for (const std::string& project : ProjectsIn(folder)) {
+    try {
+      const std::string text = ReadText(project, encoding);
+      if (NamesFile(text, folder, sourcePath)) return NameIn(text, project);
+    } catch (const SourceError&) {
+      // A damaged project names no file; the source file itself can be worked on all the same.
+    }
+  }
+  return {};
+}
+
+}  // namespace brimwork

@@ -1,0 +1,45 @@
+// Lines as they stand on disk: text and line end apart, a lone CR being text.
+#pragma once
+
+#include <string_view>
+
+#include "memory/module_text.h"
+
+namespace brimwork {
+
+struct RawLine {
+  std::string_view text;
+  LineEnd end = LineEnd::kFileStyle;  // kFileStyle: the last line of a text that does not end it
+
+  std::size_t EndSize() const { return end == LineEnd::kCrLf ? 2 : end == LineEnd::kLf ? 1 : 0; }
+};
+
+/// Takes the first line off rest, which is not empty.
+inline RawLine TakeLine(std::string_view& rest) {
+  const auto lineFeed = rest.find('\n');
+  if (lineFeed == std::string_view::npos) {
+    const RawLine last{rest, LineEnd::kFileStyle};
+    rest = {};
+    return last;
+  }
+  RawLine line{rest.substr(0, lineFeed), LineEnd::kLf};
+  rest.remove_prefix(lineFeed + 1);
+  if (line.text.ends_with('\r')) {
+    line.text.remove_suffix(1);
+    line.end = LineEnd::kCrLf;
+  }
+  return line;
+}
+
+/// Number of lines that TakeLine finds.
+inline std::size_t CountLines(std::string_view text) {
+  std::size_t lines = 0;
+  while (!text.empty()) {
+    const auto lineFeed = text.find('\n');
+    text.remove_prefix(lineFeed == std::string_view::npos ? text.size() : lineFeed + 1);
+    ++lines;
+  }
+  return lines;
+}
+
+}  // namespace brimwork

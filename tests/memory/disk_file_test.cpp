@@ -1,0 +1,460 @@
+#include "memory/disk_file.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <linux/audit.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <cstddef>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <thread>
+
+#include "memory/source_error.h"
+#include "support/temporary_folder.h"
+
+namespace brimwork {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string ErrorOf(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const SourceError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+FileComposer Writing(std::string bytes) {
+  return [bytes = std::move(bytes)](const ByteSink& sink) { sink(bytes); };
+}
+
+/// Runs call without root's rights, for root may read and write everything.
+void AsNobody(const std::function<void()>& call) {
+  const bool isRoot = geteuid() == 0;
+  if (isRoot && seteuid(65534) != 0) throw std::runtime_error("seteuid");
+  call();
+  if (isRoot && seteuid(0) != 0) throw std::runtime_error("seteuid");
+}
+
+/// Lets no file become larger, as a full disk would, for its life.
+class SizeLimit {
+ public:
+  explicit SizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limit{bytes, old_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~SizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, oldHandler_);
+  }
+
+ private:
+  rlimit old_;
+  void (*oldHandler_)(int);
+};
+
+class DiskFile : public testing::Test {
+ protected:
+  DiskFile() { fs::permissions(folder_.Path(), fs::perms::all); }
+
+  std::string Write(const std::string& name, const std::string& bytes) {
+    WriteBytes(folder_ / name, bytes);
+    return In(name);
+  }
+  std::string In(const std::string& name) { return (folder_ / name).string(); }
+
+  int EntriesInFolder() {
+    int entries = 0;
+    for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder_.Path())) ++entries;
+    return entries;
+  }
+
+  static mode_t ModeOf(const std::string& path) {
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0) throw std::runtime_error("stat");
+    return status.st_mode & 07777;
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(DiskFile, ReadsAllBytes) {
+  const std::string bytes("a\0b\r\n\xFF", 6);
+  EXPECT_EQ(ReadWholeFile(Write("a.bas", bytes)).bytes, bytes);
+  EXPECT_EQ(ReadWholeFile(Write("empty.bas", "")).bytes, "");
+}
+
+TEST_F(DiskFile, SaysWhyAFileCannotBeRead) {
+  EXPECT_EQ(ErrorOf([&] { ReadWholeFile(In("none.bas")); }),
+            In("none.bas") + ": stat: No such file or directory");
+  EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder_.Path().string()); }),
+            folder_.Path().string() + ": this is a folder; name a file");
+  EXPECT_EQ(ErrorOf([&] { ReadWholeFile("/dev/null"); }),
+            "/dev/null: this is no regular file; only regular files can be read");
+  ASSERT_EQ(mkfifo(In("pipe.bas").c_str(), 0600), 0);
+  EXPECT_THAT(ErrorOf([&] { ReadWholeFile(In("pipe.bas")); }), HasSubstr("no regular file"));
+}
+
+TEST_F(DiskFile, SaysThatAFileMayNotBeRead) {
+  const std::string path = Write("a.bas", "a");
+  chmod(path.c_str(), 0);
+  AsNobody([&] {
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(path); }), path + ": open: Permission denied");
+  });
+}
+
+TEST_F(DiskFile, RefusesAFileThatGrowsWhileItIsRead) {
+  const std::string path = Write("a.bas", std::string(20'000'000, 'x'));
+  std::atomic<bool> stop = false;
+  std::atomic<bool> started = false;
+  std::thread writer([&] {
+    const int file = open(path.c_str(), O_WRONLY | O_APPEND);
+    while (!stop) {
+      WriteAll(file, "x", path);
+      started = true;
+    }
+    close(file);
+  });
+  while (!started) std::this_thread::yield();
+  const std::string error = ErrorOf([&] { ReadWholeFile(path); });
+  stop = true;
+  writer.join();
+  EXPECT_EQ(error, path +
+                       ": the file changed while it was being read; try again when nothing "
+                       "writes to it");
+}
+
+TEST_F(DiskFile, ReplacesAFileAndKeepsItsPermissions) {
+  const std::string path = Write("a.bas", "old");
+  chmod(path.c_str(), 0640);
+  WriteWholeFile(path, ReadWholeFile(path).snapshot, [](const ByteSink& sink) {
+    sink("new ");
+    sink("bytes");
+  });
+  EXPECT_EQ(ReadBytes(path), "new bytes");
+  EXPECT_EQ(ModeOf(path), 0640u);
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST_F(DiskFile, KeepsTheOwnerOfAFile) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root may own files as somebody else";
+  const std::string path = Write("a.bas", "old");
+  ASSERT_EQ(chown(path.c_str(), 1234, 4321), 0);
+  chmod(path.c_str(), 04755);
+  WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing("new"));
+  struct stat status;
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 1234u);
+  EXPECT_EQ(status.st_gid, 4321u);
+  EXPECT_EQ(ModeOf(path), 04755u);
+}
+
+TEST_F(DiskFile, ReplacesAFileOfSomebodyElseInAFolderOfOnesOwn) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root may own files as somebody else";
+  const std::string path = Write("a.bas", "old");
+  chmod(path.c_str(), 0666);
+  AsNobody([&] { WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing("new")); });
+  EXPECT_EQ(ReadBytes(path), "new");
+  EXPECT_EQ(ModeOf(path), 0666u);
+}
+
+TEST_F(DiskFile, WritesThroughLinks) {
+  const std::string path = Write("a.bas", "old");
+  fs::create_directory(folder_ / "sub");
+  fs::create_symlink("../a.bas", folder_ / "sub/link.bas");
+  fs::create_symlink("sub/link.bas", folder_ / "link.bas");
+  WriteWholeFile(In("link.bas"), ReadWholeFile(In("link.bas")).snapshot, Writing("new"));
+  EXPECT_EQ(ReadBytes(path), "new");
+  EXPECT_TRUE(fs::is_symlink(folder_ / "link.bas"));
+  EXPECT_TRUE(fs::is_symlink(folder_ / "sub/link.bas"));
+}
+
+TEST_F(DiskFile, WritesAFileInTheWorkingFolder) {
+  Write("a.bas", "old");
+  const fs::path before = fs::current_path();
+  fs::current_path(folder_.Path());
+  WriteWholeFile("a.bas", ReadWholeFile("a.bas").snapshot, Writing("new"));
+  fs::current_path(before);
+  EXPECT_EQ(ReadBytes(In("a.bas")), "new");
+}
+
+TEST_F(DiskFile, KeepsAFileWithSeveralNamesOneFile) {
+  const std::string path = Write("a.bas", "old and longer");
+  fs::create_hard_link(path, folder_ / "b.bas");
+  for (const std::string bytes : {"new", "much longer than it was before"}) {
+    WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing(bytes));
+    EXPECT_EQ(ReadBytes(In("b.bas")), bytes);
+    EXPECT_TRUE(fs::equivalent(path, folder_ / "b.bas"));
+    EXPECT_EQ(EntriesInFolder(), 2);
+  }
+}
+
+TEST_F(DiskFile, RefusesAFileThatWasChangedSinceItWasRead) {
+  const std::string path = Write("a.bas", "old");
+  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
+  Write("a.bas", "theirs");
+  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
+            path +
+                ": the file was changed by someone else since it was read; it was left as it is "
+                "now, run again");
+  EXPECT_EQ(ReadBytes(path), "theirs");
+  fs::remove(path);
+  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
+            path + ": realpath: No such file or directory");
+  EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(DiskFile, RefusesAFileThatAnotherOneReplacedWithTheSameSizeAndTime) {
+  const std::string path = Write("a.bas", "old");
+  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
+  const auto time = fs::last_write_time(path);
+  Write("b.bas", "odd");
+  fs::last_write_time(folder_ / "b.bas", time);
+  fs::rename(folder_ / "b.bas", path);
+  EXPECT_THAT(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
+              HasSubstr("changed by someone else"));
+  EXPECT_EQ(ReadBytes(path), "odd");
+}
+
+TEST_F(DiskFile, RefusesAFileThatChangesWhileItIsComposed) {
+  const std::string path = Write("a.bas", "old");
+  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
+  EXPECT_THAT(ErrorOf([&] {
+                WriteWholeFile(path, snapshot, [&](const ByteSink& sink) {
+                  sink("new");
+                  Write("a.bas", "theirs");
+                });
+              }),
+              HasSubstr("changed by someone else"));
+  EXPECT_EQ(ReadBytes(path), "theirs");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST_F(DiskFile, RefusesAReadOnlyFile) {
+  const std::string path = Write("a.bas", "old");
+  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
+  chmod(path.c_str(), 0444);
+  const std::string expected = path + ": the file is read-only; it was left as it is";
+  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }), expected);
+  chmod(path.c_str(), 0644);
+  if (geteuid() == 0) {
+    AsNobody([&] {
+      EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }), expected);
+    });
+  }
+  EXPECT_EQ(ReadBytes(path), "old");
+}
+
+TEST_F(DiskFile, SaysThatAFolderTakesNoNewFile) {
+  const std::string path = Write("a.bas", "old");
+  chmod(path.c_str(), 0666);
+  chmod(folder_.Path().c_str(), 0555);
+  AsNobody([&] {
+    EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing("new")); }),
+              folder_.Path().string() +
+                  ": cannot make a temporary file in this folder: Permission denied");
+  });
+  fs::permissions(folder_.Path(), fs::perms::all);
+  EXPECT_EQ(ReadBytes(path), "old");
+}
+
+TEST_F(DiskFile, LeavesTheFileAsItWasWhenTheBytesCannotBeComposed) {
+  const std::string path = Write("a.bas", "old");
+  EXPECT_EQ(ErrorOf([&] {
+              WriteWholeFile(path, ReadWholeFile(path).snapshot, [](const ByteSink& sink) {
+                sink("new");
+                throw SourceError("a.bas", 3, 4, "no such character");
+              });
+            }),
+            "a.bas:3:4: no such character");
+  EXPECT_EQ(ReadBytes(path), "old");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST_F(DiskFile, LeavesTheFileAsItWasWhenThereIsNoRoom) {
+  const std::string path = Write("a.bas", "old");
+  std::string error;
+  {
+    const SizeLimit limit(100'000);
+    error = ErrorOf([&] {
+      WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing(std::string(200'000, 'x')));
+    });
+  }
+  EXPECT_EQ(error, path + ": write: File too large");
+  EXPECT_EQ(ReadBytes(path), "old");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+/// A disk of 1 MB of the test's own.
+class SmallDisk {
+ public:
+  explicit SmallDisk(const std::string& folder) : folder_(folder) {
+    isMounted_ = mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
+  }
+  ~SmallDisk() {
+    if (isMounted_) umount2(folder_.c_str(), MNT_DETACH);
+  }
+  bool IsMounted() const { return isMounted_; }
+
+ private:
+  std::string folder_;
+  bool isMounted_;
+};
+
+TEST_F(DiskFile, LeavesTheFileAsItWasOnAFullDisk) {
+  fs::create_directory(folder_ / "disk");
+  const SmallDisk disk(In("disk"));
+  if (!disk.IsMounted()) GTEST_SKIP() << "this user may not mount: " << std::strerror(errno);
+  const std::string old(300'000, 'o');
+  const std::string path = Write("disk/a.bas", old);
+  EXPECT_EQ(ErrorOf([&] {
+              WriteWholeFile(path, ReadWholeFile(path).snapshot,
+                             Writing(std::string(900'000, 'n')));
+            }),
+            path + ": write: No space left on device");
+  EXPECT_EQ(ReadBytes(path), old);
+}
+
+TEST_F(DiskFile, LeavesAFileWithSeveralNamesAsItWasOnAFullDisk) {
+  fs::create_directory(folder_ / "disk");
+  const SmallDisk disk(In("disk"));
+  if (!disk.IsMounted()) GTEST_SKIP() << "this user may not mount: " << std::strerror(errno);
+  const std::string old(100'000, 'o');
+  const std::string path = Write("disk/a.bas", old);
+  fs::create_hard_link(path, folder_ / "disk/b.bas");
+  // New bytes and the copy of the old ones have room, the file itself has not.
+  EXPECT_EQ(ErrorOf([&] {
+              WriteWholeFile(path, ReadWholeFile(path).snapshot,
+                             Writing(std::string(600'000, 'n')));
+            }),
+            path + ": fallocate: No space left on device");
+  EXPECT_EQ(ReadBytes(In("disk/b.bas")), old);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "disk"), {}), 2);
+}
+
+/// Makes every opening of a file without a name fail, as on file systems that know no such files.
+bool RefuseNamelessFiles() {
+  sock_filter rules[] = {
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[2])),
+      BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, O_TMPFILE & ~O_DIRECTORY, 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+  };
+  const sock_fprog program{static_cast<unsigned short>(std::size(rules)), rules};
+  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+         prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+/// Runs check in a process that knows no nameless files; its result is the exit code.
+int InProcessWithoutNamelessFiles(const std::function<int()>& check) {
+  const pid_t child = fork();
+  if (child == 0) {
+    if (!RefuseNamelessFiles()) _exit(99);
+    const int probe = open("/tmp", O_TMPFILE | O_RDWR, 0600);
+    _exit(probe >= 0 ? 98 : check());
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(DiskFile, UsesANamedTemporaryFileWhereTheFileSystemKnowsNoOther) {
+  const std::string path = Write("a.bas", "old");
+  const int result = InProcessWithoutNamelessFiles([&] {
+    const std::string error =
+        ErrorOf([&] { WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing("new")); });
+    return error == "no error" ? 0 : 1;
+  });
+  if (result == 99) GTEST_SKIP() << "this kernel filters no system calls";
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(ReadBytes(path), "new");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST_F(DiskFile, RemovesANamedTemporaryFileWhenItFails) {
+  const std::string path = Write("a.bas", "old");
+  const int result = InProcessWithoutNamelessFiles([&] {
+    const std::string error = ErrorOf([&] {
+      WriteWholeFile(path, ReadWholeFile(path).snapshot, [&](const ByteSink&) {
+        if (EntriesInFolder() != 2) _exit(97);
+        throw SourceError(path, "stop");
+      });
+    });
+    return error == path + ": stop" ? 0 : 1;
+  });
+  if (result == 99) GTEST_SKIP() << "this kernel filters no system calls";
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(ReadBytes(path), "old");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST_F(DiskFile, LeavesNothingBehindWhenTheProcessIsKilledWhileItWrites) {
+  const std::string path = Write("a.bas", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    WriteWholeFile(path, ReadWholeFile(path).snapshot, [](const ByteSink& sink) {
+      sink("new");
+      raise(SIGKILL);
+    });
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(ReadBytes(path), "old");
+  EXPECT_EQ(EntriesInFolder(), 1);
+}
+
+TEST(WriteAll, SaysWhyADescriptorTakesNoMore) {
+  const int full = open("/dev/full", O_WRONLY);
+  ASSERT_GE(full, 0);
+  EXPECT_EQ(ErrorOf([&] { WriteAll(full, "bytes", "standard output"); }),
+            "standard output: write: No space left on device");
+  EXPECT_EQ(ErrorOf([&] { WriteAll(full, "", "standard output"); }), "no error");
+  close(full);
+  EXPECT_EQ(ErrorOf([&] { WriteAll(-1, "bytes", "standard output"); }),
+            "standard output: write: Bad file descriptor");
+}
+
+TEST(WriteAll, WaitsForAReaderThatIsSlow) {
+  int ends[2];
+  ASSERT_EQ(pipe2(ends, O_NONBLOCK), 0);
+  const std::string bytes(1'000'000, 'x');
+  std::string read;
+  std::thread reader([&] {
+    char buffer[10'000];
+    while (read.size() < bytes.size()) {
+      const ssize_t count = ::read(ends[0], buffer, sizeof buffer);
+      if (count > 0) read.append(buffer, static_cast<std::size_t>(count));
+    }
+  });
+  WriteAll(ends[1], bytes, "pipe");
+  reader.join();
+  EXPECT_EQ(read, bytes);
+  close(ends[0]);
+  close(ends[1]);
+}
+
+}  // namespace
+}  // namespace brimwork
