@@ -84,6 +84,10 @@ class FileQueue {
   template <class Take>
   void Run(Take take) {
     const std::size_t jobs = std::min<std::size_t>(options_.jobs, files_.size());
+    if (jobs <= 1) {
+      for (const InputFile& file : files_) take(RunOn(file));
+      return;
+    }
     std::vector<std::jthread> workers;
     for (std::size_t i = 0; i < jobs; ++i) workers.emplace_back([this] { Work(); });
     for (std::size_t i = 0; i < files_.size(); ++i) take(WaitFor(i));
@@ -92,14 +96,19 @@ class FileQueue {
  private:
   void Work() {
     for (std::size_t i = next_++; i < files_.size(); i = next_++) {
-      FileReport report = RunOnFile(options_, files_[i], console_, [&](const frmInfo& window) {
-        progress_.Show(files_[i].path, window);
-      });
-      progress_.FileDone();
+      FileReport report = RunOn(files_[i]);
       const std::lock_guard lock(mutex_);
       reports_[i] = std::move(report);
       reported_.notify_one();
     }
+  }
+
+  FileReport RunOn(const InputFile& file) {
+    FileReport report = RunOnFile(options_, file, console_, [&](const frmInfo& window) {
+      progress_.Show(file.path, window);
+    });
+    progress_.FileDone();
+    return report;
   }
 
   FileReport WaitFor(std::size_t i) {

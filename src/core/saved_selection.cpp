@@ -13,6 +13,7 @@ class Nearest {
   void Offer(int candidate) {
     if (!best_ || Distance(candidate) < Distance(*best_)) best_ = candidate;
   }
+  bool IsOnTheLine() const { return best_ == line_; }
   bool IsNearerThan(int candidate) const {
     return best_ && Distance(*best_) <= Distance(candidate);
   }
@@ -34,6 +35,7 @@ std::optional<int> FindLineNow(CodeModule& module, const std::string& text, int 
     if (line > oldLine && equal.IsNearerThan(line)) break;
     containing.Offer(line);
     if (module.Lines(line, 1) == text) equal.Offer(line);
+    if (equal.IsOnTheLine()) break;
     match = {line + 1, 1, -1, -1};
   }
   return equal.Best() ? equal.Best() : containing.Best();

@@ -41,6 +41,7 @@ bool StartsWithRem(std::string_view text) {
 /// Takes one of the words off text and returns it as written, or "" when none stands there.
 std::string_view TakeOneOf(std::string_view& text, std::initializer_list<std::string_view> words) {
   for (const std::string_view word : words) {
+    if (text.empty() || ToUpperAscii(text[0]) != word[0]) continue;
     const std::string_view written = text.substr(0, word.size());
     if (TakeWordAndBlanks(text, word)) return written;
   }

@@ -12,6 +12,8 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 bool IsContinuationByte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
@@ -64,7 +66,6 @@ char32_t NextCodePoint(std::string_view text, std::size_t& offset) {
 }
 
 char32_t FoldCodePoint(char32_t c) {
-  if (c >= U'A' && c <= U'Z') return c + 32;
   if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
   if (c >= 0x100 && c <= 0x17F && c != 0x130 && c != 0x131 && c != 0x138 && c != 0x149) {
     const bool evenIsUpper = c < 0x139 || (c > 0x148 && c < 0x179);
@@ -102,7 +103,11 @@ std::string FoldName(std::string_view name) {
   std::string folded;
   folded.reserve(name.size());
   for (std::size_t at = 0; at < name.size();)
-    AppendUtf8(folded, FoldCodePoint(NextCodePoint(name, at)));
+    if (static_cast<unsigned char>(name[at]) < 0x80) {
+      folded += ToLowerAscii(name[at++]);
+    } else {
+      AppendUtf8(folded, FoldCodePoint(NextCodePoint(name, at)));
+    }
   return folded;
 }
 

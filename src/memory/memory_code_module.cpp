@@ -21,10 +21,11 @@ std::string_view Columns(std::string_view line, int startColumn, int endColumn) 
   return line.substr(first, std::max(first, last) - first);
 }
 
-/// An indent says nothing about procedures, so re-indenting a module need not find them again.
-bool DiffersInIndentOnly(std::string_view before, std::string_view after) {
-  return TrimLeft(before, " \t") == TrimLeft(after, " \t") &&
-         IsContinued(before) == IsContinued(after) && !Contains(after, "\n");
+/// Blanks around a line say nothing about procedures, so re-indenting a module need not find them
+/// again.
+bool DiffersInBlanksOnly(std::string_view before, std::string_view after) {
+  return TrimBlanksAndTabs(before) == TrimBlanksAndTabs(after) &&
+         IsContinued(before) == IsContinued(after);
 }
 
 }  // namespace
@@ -69,10 +70,10 @@ void MemoryCodeModule::ReplaceLine(int line, std::string_view text) {
   if (line > text_.Count()) {
     throw RunTimeError(error_number::kSubscriptOutOfRange, "Subscript out of range", line);
   }
-  const bool isIndentOnly = DiffersInIndentOnly(text_.Line(line), text);
+  const bool isBlanksOnly = DiffersInBlanksOnly(text_.Line(line), text);
   const int before = text_.Count();
   text_.Replace(line, text);
-  if (isIndentOnly) return;
+  if (isBlanksOnly) return;
   if (latestBody_ > line) latestBody_ += text_.Count() - before;
   index_.NoteEdit(line);
 }

@@ -47,10 +47,6 @@ void ModuleText::AppendHidden(HiddenLine hidden) {
   HangBehind(Count(), static_cast<std::uint32_t>(hiddenGroups_.size() - 1));
 }
 
-std::span<const HiddenLine> ModuleText::HiddenBehind(int line) const {
-  return hiddenGroups_[line == 0 ? hiddenBeforeFirst_ : Slot(line).HiddenGroup()];
-}
-
 void ModuleText::Replace(int line, std::string_view text) {
   const auto lineEnd = text.find('\n');
   if (lineEnd == std::string_view::npos) {

@@ -46,7 +46,11 @@ class ModuleText {
   std::string_view Line(int line) const { return Slot(line).Text(); }
   LineEnd End(int line) const { return Slot(line).End(); }
   /// The hidden lines behind a line, in order; line 0 has those before line 1.
-  std::span<const HiddenLine> HiddenBehind(int line) const;
+  std::span<const HiddenLine> HiddenBehind(int line) const {
+    const std::uint32_t group = line == 0 ? hiddenBeforeFirst_ : Slot(line).HiddenGroup();
+    if (group == 0) return {};
+    return hiddenGroups_[group];
+  }
 
   // text must not point into this object's own lines.
 

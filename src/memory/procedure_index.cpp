@@ -11,13 +11,8 @@ namespace {
 
 constexpr int kWholeModule = std::numeric_limits<int>::max();
 
-/// The line without its indent but for one blank: a lone underscore continues only behind a blank.
-std::string_view WithoutIndent(std::string_view line) {
-  const std::size_t indent = line.size() - TrimLeft(line, " \t").size();
-  return indent > 1 ? line.substr(indent - 1) : line;
-}
-
-/// Walks down the lines and keeps what the line at hand depends on from the lines above it.
+/// Walks down the lines and keeps what the line at hand depends on from the lines above it. Most
+/// lines are told apart by their first character; the rest is looked at more closely.
 class LineCursor {
  public:
   LineCursor(const ModuleText& text, int line) : text_(text), line_(line) { Read(); }
@@ -25,42 +20,60 @@ class LineCursor {
   bool AtEnd() const { return line_ > text_.Count(); }
   int LineNumber() const { return line_; }
   std::string_view Text() const { return current_; }
-  Continues Above() const { return above_; }
 
   /// The last line down to this one that is code: neither blank nor comment, or continuing code.
   int LastCodeLine() const { return lastCode_; }
   int LastCodeLineAbove() const { return lastCodeAbove_; }
 
   std::optional<Declaration> DeclarationHere() const {
-    if (above_ != Continues::kNothing || inTypeBlock_) return std::nullopt;
+    if (!StartsStatement("PFSpfs") || inTypeBlock_) return std::nullopt;
     return ParseDeclaration(current_);
+  }
+
+  bool ClosesProcedureHere() const {
+    const bool mayClose = StartsStatement("Ee0123456789") || Contains(current_, ":");
+    return mayClose && !isComment_ && ClosesProcedure(current_, above_);
+  }
+
+  bool IsConditionalHere() const {
+    return StartsStatement("#") && IsConditionalCompilationLine(current_);
   }
 
   void Next() {
     if (inTypeBlock_) {
       inTypeBlock_ = !ClosesTypeBlock(current_);
-    } else if (above_ == Continues::kNothing) {
+    } else if (StartsStatement("PTEpte")) {
       inTypeBlock_ = OpensTypeBlock(current_) && !ClosesTypeBlock(current_);
     }
-    above_ = ContinuedBelow(current_, above_);
+    above_ = IsContinued(current_) ? ContinuedBelow(current_, above_) : Continues::kNothing;
     ++line_;
     Read();
   }
 
  private:
+  bool StartsStatement(std::string_view firstCharacters) const {
+    return above_ == Continues::kNothing && IsOneOf(first_, firstCharacters);
+  }
+
   void Read() {
     lastCodeAbove_ = lastCode_;
     if (AtEnd()) return;
-    current_ = WithoutIndent(text_.Line(line_));
+    const std::string_view line = text_.Line(line_);
+    const std::string_view code = TrimLeft(line, " \t");
+    // A lone underscore continues only behind a blank, so one blank of the indent stays.
+    current_ = line.size() > code.size() ? line.substr(line.size() - code.size() - 1) : line;
+    first_ = code.empty() ? ' ' : code[0];
+    const bool mayBeComment = above_ == Continues::kComment || IsOneOf(first_, "'Rr");
+    isComment_ = mayBeComment && IsCommentLine(code, above_);
     const bool continuesCode = above_ != Continues::kNothing && lastCode_ == line_ - 1;
-    if (continuesCode || (!IsBlankLine(current_) && !IsCommentLine(current_, above_))) {
-      lastCode_ = line_;
-    }
+    if (continuesCode || (!code.empty() && !isComment_)) lastCode_ = line_;
   }
 
   const ModuleText& text_;
   int line_;
   std::string_view current_;
+  char first_ = ' ';
+  bool isComment_ = false;
   Continues above_ = Continues::kNothing;
   bool inTypeBlock_ = false;
   int lastCode_ = 0;
@@ -93,10 +106,8 @@ Ending FindEnding(const ModuleText& text, LineCursor cursor) {
       if (!conditionalLineSinceHead) return {cursor.LastCodeLineAbove(), cursor.LineNumber()};
       conditionalLineSinceHead = false;
     }
-    if (ClosesProcedure(cursor.Text(), cursor.Above())) return ClosedAt(text, cursor.LineNumber());
-    if (cursor.Above() == Continues::kNothing && IsConditionalCompilationLine(cursor.Text())) {
-      conditionalLineSinceHead = true;
-    }
+    if (cursor.ClosesProcedureHere()) return ClosedAt(text, cursor.LineNumber());
+    if (cursor.IsConditionalHere()) conditionalLineSinceHead = true;
   }
   return {cursor.LastCodeLine(), kWholeModule};
 }
@@ -125,7 +136,7 @@ const ProcedureIndex::Procedure* ProcedureIndex::FirstNamed(const ModuleText& te
 }
 
 std::string_view ProcedureIndex::NameOf(const ModuleText& text, const Procedure& procedure) {
-  const std::string_view line = text.Line(procedure.body);
+  const std::string_view line = TrimRight(text.Line(procedure.body), " \t");
   return line.substr(line.size() - procedure.nameFromEnd, procedure.nameSize);
 }
 
@@ -150,7 +161,8 @@ bool ProcedureIndex::ScanNext(const ModuleText& text) {
   entry.body = cursor.LineNumber();
   const Declaration declaration = *cursor.DeclarationHere();
   entry.kind = declaration.kind;
-  entry.nameFromEnd = static_cast<std::uint32_t>(cursor.Text().end() - declaration.name.begin());
+  entry.nameFromEnd =
+      static_cast<std::uint32_t>(TrimRight(cursor.Text(), " \t").end() - declaration.name.begin());
   entry.nameSize = static_cast<std::uint32_t>(declaration.name.size());
   const Ending ending = FindEnding(text, cursor);
   entry.end = ending.line;

@@ -22,7 +22,8 @@ class ProcedureIndex {
     int end = 0;    // last line
     ProcKind kind = ProcKind::kProcedure;
 
-    // Where the name stands in the declaration, from the line's end: an indent leaves that alone.
+    // Where the name stands in the declaration, from the end of the line's text: blanks around the
+    // text leave that alone.
     std::uint32_t nameFromEnd = 0;
     std::uint32_t nameSize = 0;
   };

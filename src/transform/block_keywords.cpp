@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "environment/text.h"
-
 namespace brimwork {
 namespace {
 
@@ -18,17 +16,23 @@ std::string ToUpper(std::string_view text) {
 KeywordTokens::KeywordTokens(std::string_view commaSeparated) {
   for (const std::string_view keyword : Split(commaSeparated, ",")) {
     tokens_.push_back(ToUpper(keyword) + ' ');
-    byFirstCharacter_[static_cast<unsigned char>(tokens_.back()[0])].push_back(tokens_.back());
+    pairs_.set(PairOf(tokens_.back()));
+  }
+  std::ranges::sort(tokens_);
+  for (std::size_t first = 0; first < firstOf_.size(); ++first) {
+    firstOf_[first] =
+        static_cast<std::uint8_t>(std::ranges::count_if(tokens_, [&](const std::string& token) {
+          return static_cast<std::size_t>(token[0]) < first;
+        }));
   }
 }
 
-int KeywordTokens::CountAtStart(std::string_view text) const {
-  if (text.empty()) return 0;
-  const auto first = static_cast<unsigned char>(ToUpperAscii(text[0]));
-  if (first >= byFirstCharacter_.size()) return 0;
+int KeywordTokens::CountTokens(std::string_view text) const {
+  const auto first = static_cast<std::size_t>(ToUpperAscii(text[0]));
   int count = 0;
-  for (const std::string& token : byFirstCharacter_[first])
-    count += StartsWithIgnoringCase(text, token);
+  for (std::size_t i = firstOf_[first]; i < firstOf_[first + 1]; ++i) {
+    count += StartsWithIgnoringCase(text, tokens_[i]);
+  }
   return count;
 }
 

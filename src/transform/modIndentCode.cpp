@@ -1,5 +1,6 @@
 #include "transform/modIndentCode.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -31,10 +32,8 @@ int ContinuedCommentColumn(std::string_view comment) {
 }
 
 std::size_t FindQuoteOrApostrophe(std::string_view code) {
-  for (std::size_t at = 0; at < code.size(); ++at) {
-    if (code[at] == '"' || code[at] == '\'') return at;
-  }
-  return std::string_view::npos;
+  const auto quote = code.find('"');
+  return std::min(quote, code.substr(0, quote).find('\''));
 }
 
 /// Keeps levels within the 16 bits that they are counted in.

@@ -1,1 +1,3 @@
-int main() { return 0; }
+#include "cli/app.h"
+
+int main(int argc, char** argv) { return brimwork::RunApp(argc, argv); }
