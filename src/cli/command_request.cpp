@@ -33,6 +33,8 @@ bool IsInCatalogue(std::string_view caption) {
                              [&](const CatalogueEntry& entry) { return entry.caption == caption; });
 }
 
+constexpr std::string_view kTimeStamp = "Insert Time Stamp";
+
 std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 std::string UnknownCaption(std::string_view caption) {
@@ -58,6 +60,9 @@ void CheckPlace(const PlaceRequest& place) {
 
 CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& place) {
   CheckPlace(place);
+  if (caption == kTimeStamp && place.procedure) {
+    throw UsageError("a time stamp goes to one line: give --line N");
+  }
   if (!IsInCatalogue(caption)) throw UsageError(UnknownCaption(caption));
   const bool onModule = HasCommand(caption, true);
   const bool atPlace = HasCommand(caption, false);

@@ -1,8 +1,12 @@
 #include "cli/file_job.h"
 
 #include <exception>
+#include <optional>
 #include <utility>
 
+#include "cli/allowance_for.h"
+#include "cli/file_diff.h"
+#include "cli/module_checks.h"
 #include "cli/module_session.h"
 #include "cli/source_input.h"
 
@@ -10,53 +14,96 @@ namespace brimwork {
 namespace {
 
 /// True when every line is as it was read; what the editor hides never changes.
-bool IsAsRead(const SourceFile& file, const ModuleText& text) {
-  OriginalLines lines = file.LinesAsRead();
-  for (int line = 1; line <= text.Count(); ++line) {
-    if (!lines.Next() || lines.Line() != text.Line(line)) return false;
+bool IsAsRead(const CodeLines& before, const CodeLines& after) {
+  if (before.Count() != after.Count()) return false;
+  for (int line = 1; line <= after.Count(); ++line) {
+    if (before.Line(line) != after.Line(line)) return false;
   }
-  return !lines.Next();
+  return true;
 }
 
 class FileJob {
  public:
   FileJob(const RunOptions& options, const InputFile& input, Console& console)
       : options_(options),
-        input_(input),
         console_(console),
-        path_(ShownPath(input.path, options)) {}
+        path_(ShownPath(input.path, options)),
+        input_(input),
+        source_(ReadInput(input.path)),
+        originalBytes_(options.diff ? source_.bytes : std::string()),
+        file_(SourceFile::Parse(std::move(source_.bytes), path_, options.encoding)),
+        session_(options, file_, input.projectName) {}
 
   void Run(FileReport& report, const std::function<void(const frmInfo&)>& showProgress) {
-    SourceInput source = ReadInput(input_.path);
-    SourceFile file = SourceFile::Parse(std::move(source.bytes), path_, options_.encoding);
-    ModuleSession session(options_, file, input_.projectName);
-    session.OnProgress(showProgress);
-    report.lacksProcedure = session.Run(options_.command) == 0;
-    report.wouldChange = !IsAsRead(file, session.Text());
-    Deliver(report, file, session, source);
+    session_.OnProgress(showProgress);
+    report.lacksProcedure = session_.Run(options_.command) == 0;
+    const LinesAsRead before(file_);
+    report.wouldChange = !IsAsRead(before, LinesNow(session_.Text()));
+    if (!Check(before, report)) return;
+    Deliver(before, report);
   }
 
  private:
-  void Deliver(FileReport& report, const SourceFile& file, const ModuleSession& session,
-               const SourceInput& source) {
-    const auto compose = [&](const ByteSink& sink) { file.Compose(session.Text(), sink); };
+  /// Vouches for the result and collects the warnings; false when the file must be left alone.
+  bool Check(const LinesAsRead& before, FileReport& report) {
+    const LinesNow after(session_.Text());
+    const Allowance allowance = AllowanceFor(options_.command.caption, session_.Parts());
+    const bool warns = options_.warnings && (allowance.labelsMayGo || allowance.handler ||
+                                             !session_.SkippedErrors().empty());
+    const bool needsAlignment = warns || !options_.PrintsResult();
+    const auto difference = Vouch(before, after, allowance, needsAlignment ? &alignment_ : nullptr);
+    if (difference && !options_.isUnsafe) {
+      report.errors.push_back(FaultMessage(file_, *difference));
+      report.wouldChange = false;
+      return false;
+    }
+    if (warns) report.warnings = WarningsOf(file_, session_, allowance, before, alignment_);
+    return true;
+  }
+
+  void Deliver(const LinesAsRead& before, FileReport& report) {
     if (options_.PrintsResult()) {
-      compose([](std::string_view) {});
-      compose([&](std::string_view bytes) { console_.Out(bytes); });
+      PrintResult();
       return;
     }
     if (!report.wouldChange) {
       report.detail = path_ + ": unchanged";
       return;
     }
-    if (options_.check) report.output += path_ + '\n';
-    if (options_.write) WriteWholeFile(input_.path, *source.snapshot, compose);
+    if (options_.diff) report.output = Diff();
+    if (options_.check) {
+      (options_.diff ? report.summary : report.output) += path_ + (options_.diff ? "" : "\n");
+    }
+    if (options_.write) {
+      WriteWholeFile(input_.path, *source_.snapshot, [&](const ByteSink& sink) { Compose(sink); });
+      report.summary = path_ + ": " + ChangeSummary(before, LinesNow(session_.Text()), alignment_);
+    }
   }
 
+  /// Nothing is printed of a result that cannot be encoded whole.
+  void PrintResult() {
+    Compose([](std::string_view) {});
+    Compose([&](std::string_view bytes) { console_.Out(bytes); });
+  }
+
+  std::string Diff() {
+    std::string bytes;
+    Compose([&](std::string_view piece) { bytes += piece; });
+    return FileDiff({path_, originalBytes_, bytes, file_, session_.Text(), alignment_,
+                     console_.OutIsTerminal(), console_.ColorsOut()});
+  }
+
+  void Compose(const ByteSink& sink) const { file_.Compose(session_.Text(), sink); }
+
   const RunOptions& options_;
-  const InputFile& input_;
   Console& console_;
   std::string path_;
+  const InputFile& input_;
+  SourceInput source_;
+  std::string originalBytes_;  // for the diff only
+  SourceFile file_;
+  ModuleSession session_;
+  Alignment alignment_;
 };
 
 }  // namespace

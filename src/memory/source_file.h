@@ -36,6 +36,10 @@ class SourceFile {
   void Compose(const ModuleText& text, const ByteSink& sink) const;
 
   int FileLines() const { return layout_.FileLines(); }
+  /// Number of lines that the editor hides above the module.
+  int PreambleLines() const { return layout_.preamble.lines; }
+  /// Number of lines of the module as read.
+  int LineCount() const { return layout_.moduleLines; }
 
   /// The module's line (from 1) of a line of the file as read: for a hidden line the one it hangs
   /// on, 1 for the preamble. Throws SourceError when the file has no such line.

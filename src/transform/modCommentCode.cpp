@@ -134,9 +134,13 @@ void InsertHeader(Context& context, std::string_view headerKind) {
   });
 }
 
+std::string TimeStampText(Environment& environment) {
+  return " ' " + environment.clock.GeneralDate() + ' ';
+}
+
 void InsertTimeStamp(Context& context) {
   Environment& environment = context.environment;
-  const std::string stamp = " ' " + environment.clock.GeneralDate() + ' ';
+  const std::string stamp = TimeStampText(environment);
   const BorrowedClipboard borrowed(environment.clipboard);
   environment.clipboard.Clear();
   environment.clipboard.SetText(stamp);

@@ -25,6 +25,9 @@ void InsertHeader(Context& context, std::string_view headerKind);
 /// Pastes " ' ", the date and time and a blank at the caret. The user's clipboard text is kept.
 void InsertTimeStamp(Context& context);
 
+/// What InsertTimeStamp pastes.
+std::string TimeStampText(Environment& environment);
+
 /// The header template of that kind, "Release Date" replaced by today's short date.
 std::string HeaderText(Environment& environment, std::string_view headerKind);
 

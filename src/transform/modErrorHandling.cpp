@@ -12,8 +12,6 @@
 namespace brimwork {
 namespace {
 
-constexpr std::string_view kPathPlaceholder = "CURRENTFULLPROCEDUREPATH";
-
 /// The line behind the statement or comment that starts at line.
 int LineBehindStatement(CodeModule& module, int line) {
   while (IsContinued(module.Lines(line, 1))) ++line;

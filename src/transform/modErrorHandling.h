@@ -7,6 +7,9 @@
 
 namespace brimwork {
 
+/// Stands in the handler text for the procedure's path: project, module and procedure name.
+inline constexpr std::string_view kPathPlaceholder = "CURRENTFULLPROCEDUREPATH";
+
 /// With useDefaultHandler, inserts the jump to "ErrorTrap:" at the top of the body (behind leading
 /// comments and Dim statements) and, before the closing line, the exit statement, the label and the
 /// user's handler text; without, only "On Error Resume Next", unless the body mentions "On Error".
