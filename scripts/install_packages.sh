@@ -6,7 +6,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev)
 test=(libgtest-dev libgmock-dev)
-bench=(libbenchmark-dev)
+bench=(libbenchmark-dev time)
 
 Fail() {
   echo "install_packages: $*" >&2
