@@ -82,7 +82,7 @@ class FileJob {
 
   /// Nothing is printed of a result that cannot be encoded whole.
   void PrintResult() {
-    Compose([](std::string_view) {});
+    file_.RequireEncodable(session_.Text());
     Compose([&](std::string_view bytes) { console_.Out(bytes); });
   }
 

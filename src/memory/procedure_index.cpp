@@ -12,7 +12,8 @@ namespace {
 constexpr int kWholeModule = std::numeric_limits<int>::max();
 
 /// Walks down the lines and keeps what the line at hand depends on from the lines above it. Most
-/// lines are told apart by their first character; the rest is looked at more closely.
+/// lines are told apart by their first characters (Public, Private, Friend, Static, Sub, Function,
+/// Property); the rest is looked at more closely.
 class LineCursor {
  public:
   LineCursor(const ModuleText& text, int line) : text_(text), line_(line) { Read(); }
@@ -26,7 +27,9 @@ class LineCursor {
   int LastCodeLineAbove() const { return lastCodeAbove_; }
 
   std::optional<Declaration> DeclarationHere() const {
-    if (!StartsStatement("PFSpfs") || inTypeBlock_) return std::nullopt;
+    if (!StartsStatement("PFSpfs") || !IsOneOf(second_, "URTurt") || inTypeBlock_) {
+      return std::nullopt;
+    }
     return ParseDeclaration(current_);
   }
 
@@ -63,6 +66,7 @@ class LineCursor {
     // A lone underscore continues only behind a blank, so one blank of the indent stays.
     current_ = line.size() > code.size() ? line.substr(line.size() - code.size() - 1) : line;
     first_ = code.empty() ? ' ' : code[0];
+    second_ = code.size() < 2 ? ' ' : code[1];
     const bool mayBeComment = above_ == Continues::kComment || IsOneOf(first_, "'Rr");
     isComment_ = mayBeComment && IsCommentLine(code, above_);
     const bool continuesCode = above_ != Continues::kNothing && lastCode_ == line_ - 1;
@@ -73,6 +77,7 @@ class LineCursor {
   int line_;
   std::string_view current_;
   char first_ = ' ';
+  char second_ = ' ';
   bool isComment_ = false;
   Continues above_ = Continues::kNothing;
   bool inTypeBlock_ = false;

@@ -5,8 +5,20 @@
 #include "memory/source_composer.h"
 #include "memory/source_error.h"
 #include "memory/source_text.h"
+#include "memory/utf8.h"
 
 namespace brimwork {
+namespace {
+
+bool IsAscii(const ModuleText& text) {
+  for (int line = 1; line <= text.Count(); ++line) {
+    const std::string_view chars = text.Line(line);
+    if (FindNonAscii(chars, 0) != chars.size()) return false;
+  }
+  return true;
+}
+
+}  // namespace
 
 SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::string& encoding) {
   SourceFile file;
@@ -21,6 +33,11 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
   if (file.moduleName_.empty())
     file.moduleName_ = std::filesystem::path(file.path_).stem().string();
   return file;
+}
+
+void SourceFile::RequireEncodable(const ModuleText& text) const {
+  if (codec_->IsAsciiCompatible() && IsAscii(text)) return;
+  Compose(text, [](std::string_view) {});
 }
 
 void SourceFile::Compose(const ModuleText& text, const ByteSink& sink) const {

@@ -35,6 +35,9 @@ class SourceFile {
   /// whatever sink throws.
   void Compose(const ModuleText& text, const ByteSink& sink) const;
 
+  /// Throws what Compose would throw for text that the encoding has not.
+  void RequireEncodable(const ModuleText& text) const;
+
   int FileLines() const { return layout_.FileLines(); }
   /// Number of lines that the editor hides above the module.
   int PreambleLines() const { return layout_.preamble.lines; }

@@ -37,7 +37,6 @@ int KeywordTokens::CountTokens(std::string_view text) const {
 }
 
 int KeywordTokens::CountBehindColons(std::string_view text) const {
-  if (!Contains(text, ": ")) return 0;
   const std::string upper = ToUpper(text);
   return static_cast<int>(
       std::count_if(tokens_.begin(), tokens_.end(),

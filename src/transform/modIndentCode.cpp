@@ -89,10 +89,15 @@ class Indenter {
     PrepareWorkCopy(code);
     ChangeLevel(-keywords_.procedureClosers.CountAtStart(work_));
     ChangeLevel(-keywords_.blockClosers.CountAtStart(work_));
-    const int closersBehindColons = keywords_.blockClosers.CountBehindColons(work_);
+    const bool hasColons = Contains(work_, ": ");
+    const int closersBehindColons = hasColons ? keywords_.blockClosers.CountBehindColons(work_) : 0;
     AppendLevelIndent();
     result_.append(code);
-    OpenBlocks();
+    if (hasColons) {
+      for (const std::string_view statement : Split(work_, ": ")) OpenBlocksOf(statement);
+    } else {
+      OpenBlocksOf(work_);
+    }
     CountContinuation(IsContinued(code));
     ChangeLevel(-closersBehindColons);
   }
@@ -113,15 +118,6 @@ class Indenter {
     }
     work_.append(code.substr(0, special));
     if (special == std::string_view::npos) work_ += ' ';
-  }
-
-  void OpenBlocks() {
-    std::string_view rest = work_;
-    for (auto colon = rest.find(": "); colon != std::string_view::npos; colon = rest.find(": ")) {
-      OpenBlocksOf(rest.substr(0, colon));
-      rest.remove_prefix(colon + 2);
-    }
-    OpenBlocksOf(rest);
   }
 
   void OpenBlocksOf(std::string_view statement) {

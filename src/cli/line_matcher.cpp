@@ -1,0 +1,93 @@
+#include "cli/line_matcher.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "cli/code_tokens.h"
+#include "cli/line_label.h"
+#include "environment/text.h"
+
+namespace brimwork {
+namespace {
+
+/// A label that takes the place of a numbering label: its colon is looked for no further.
+constexpr std::size_t kLongestTakenLabel = 6;
+
+bool SameTokensAfterAGlance(std::string_view a, std::string_view b, Continues above) {
+  a = TrimBlanksAndTabs(a);
+  b = TrimBlanksAndTabs(b);
+  if (a == b) return true;
+  return !a.empty() && !b.empty() && a[0] == b[0] && SameTokens(a, b, above);
+}
+
+std::vector<CodeToken> TokensWithoutComment(std::string_view line, Continues above) {
+  std::vector<CodeToken> tokens = TokensOf(line, above);
+  if (!tokens.empty() && tokens.back().kind == TokenKind::kComment) tokens.pop_back();
+  return tokens;
+}
+
+bool SameTokensWithoutComment(std::string_view a, std::string_view b, Continues above) {
+  const auto tokensOfA = TokensWithoutComment(a, above);
+  const auto tokensOfB = TokensWithoutComment(b, above);
+  return std::equal(tokensOfA.begin(), tokensOfA.end(), tokensOfB.begin(), tokensOfB.end(),
+                    [](const CodeToken& x, const CodeToken& y) { return x.SameAs(y); });
+}
+
+/// line without its label when that is the line's own number, else line.
+std::string_view WithoutOwnNumber(std::string_view line, int number) {
+  const auto split = SplitNumericLabel(line);
+  return split && split->label == std::to_string(number) ? split->rest : line;
+}
+
+}  // namespace
+
+bool EqualTrimmed(std::string_view a, std::string_view b) {
+  return a == b || TrimBlanksAndTabs(a) == TrimBlanksAndTabs(b);
+}
+
+/// Tries same on the lines as they are and then with fewer and fewer of their labels. A line that
+/// continues another starts no statement, so a number there is no label.
+template <class Same>
+bool LineMatcher::AnyLabelling(std::string_view before, std::string_view after, int afterLine,
+                               Continues above, Same same) const {
+  if (above != Continues::kNothing) return same(before, after);
+  const std::string_view unnumbered =
+      allowance_.labelsMayCome ? WithoutOwnNumber(after, afterLine) : after;
+  while (true) {
+    if (same(before, after) || same(before, unnumbered)) return true;
+    const auto split = allowance_.labelsMayGo ? SplitNumericLabel(before) : std::nullopt;
+    if (!split || split->label.size() > kLongestTakenLabel) return false;
+    before = split->rest;
+  }
+}
+
+bool LineMatcher::SameCode(std::string_view before, std::string_view after, int afterLine,
+                           Continues above) const {
+  return AnyLabelling(before, after, afterLine, above,
+                      [above](std::string_view a, std::string_view b) {
+                        return SameTokensAfterAGlance(a, b, above);
+                      });
+}
+
+bool LineMatcher::SameClosingCode(std::string_view before, std::string_view after, int afterLine,
+                                  Continues above) const {
+  return AnyLabelling(before, after, afterLine, above,
+                      [above](std::string_view a, std::string_view b) {
+                        return SameTokensWithoutComment(a, b, above);
+                      });
+}
+
+bool LineMatcher::IsStamped(std::string_view before, std::string_view after) const {
+  const std::string& stamp = allowance_.stamp;
+  if (stamp.empty() || after.size() != before.size() + stamp.size()) return false;
+  for (auto at = after.find(stamp); at != std::string_view::npos; at = after.find(stamp, at + 1)) {
+    if (after.substr(0, at) == before.substr(0, at) &&
+        after.substr(at + stamp.size()) == before.substr(at)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace brimwork
