@@ -1,0 +1,144 @@
+// The object model with calls that fail: each operation is counted, then handed on.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "environment/vbe.h"
+#include "support/faulty_calls.h"
+
+namespace brimwork {
+
+class FaultyCodeModule : public CodeModule {
+ public:
+  FaultyCodeModule(std::shared_ptr<CodeModule> inner, FaultyCalls& calls)
+      : inner_(std::move(inner)), calls_(calls) {}
+
+  std::string Name() override {
+    return calls_.Through("CodeModule.Name", [&] { return inner_->Name(); });
+  }
+  std::uintptr_t Identity() override {
+    return calls_.Through("CodeModule.Identity", [&] { return inner_->Identity(); });
+  }
+  int CountOfLines() override {
+    return calls_.Through("CodeModule.CountOfLines", [&] { return inner_->CountOfLines(); });
+  }
+  int CountOfDeclarationLines() override {
+    return calls_.Through("CodeModule.CountOfDeclarationLines",
+                          [&] { return inner_->CountOfDeclarationLines(); });
+  }
+  std::string Lines(int startLine, int count) override {
+    return calls_.Through("CodeModule.Lines", [&] { return inner_->Lines(startLine, count); });
+  }
+  void InsertLines(int line, std::string_view text) override {
+    calls_.Through("CodeModule.InsertLines", [&] { inner_->InsertLines(line, text); });
+  }
+  void DeleteLines(int startLine, int count) override {
+    calls_.Through("CodeModule.DeleteLines", [&] { inner_->DeleteLines(startLine, count); });
+  }
+  void ReplaceLine(int line, std::string_view text) override {
+    calls_.Through("CodeModule.ReplaceLine", [&] { inner_->ReplaceLine(line, text); });
+  }
+  ProcedureName ProcOfLine(int line) override {
+    return calls_.Through("CodeModule.ProcOfLine", [&] { return inner_->ProcOfLine(line); });
+  }
+  int ProcStartLine(std::string_view name, ProcKind kind) override {
+    return calls_.Through("CodeModule.ProcStartLine",
+                          [&] { return inner_->ProcStartLine(name, kind); });
+  }
+  int ProcCountLines(std::string_view name, ProcKind kind) override {
+    return calls_.Through("CodeModule.ProcCountLines",
+                          [&] { return inner_->ProcCountLines(name, kind); });
+  }
+  int ProcBodyLine(std::string_view name, ProcKind kind) override {
+    return calls_.Through("CodeModule.ProcBodyLine",
+                          [&] { return inner_->ProcBodyLine(name, kind); });
+  }
+  bool Find(std::string_view target, Selection& range) override {
+    return calls_.Through("CodeModule.Find", [&] { return inner_->Find(target, range); });
+  }
+
+ private:
+  std::shared_ptr<CodeModule> inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyCodePane : public CodePane {
+ public:
+  FaultyCodePane(std::shared_ptr<CodePane> inner, FaultyCalls& calls)
+      : inner_(std::move(inner)), calls_(calls) {}
+
+  std::shared_ptr<CodeModule> Module() override {
+    return calls_.ObjectThrough("CodePane.Module", [&]() -> std::shared_ptr<CodeModule> {
+      auto module = inner_->Module();
+      return module ? std::make_shared<FaultyCodeModule>(std::move(module), calls_) : nullptr;
+    });
+  }
+  Selection GetSelection() override {
+    return calls_.Through("CodePane.GetSelection", [&] { return inner_->GetSelection(); });
+  }
+  void SetSelection(const Selection& selection) override {
+    calls_.Through("CodePane.SetSelection", [&] { inner_->SetSelection(selection); });
+  }
+
+ private:
+  std::shared_ptr<CodePane> inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyProject : public VBProject {
+ public:
+  FaultyProject(std::shared_ptr<VBProject> inner, FaultyCalls& calls)
+      : inner_(std::move(inner)), calls_(calls) {}
+  std::string Name() override {
+    return calls_.Through("VBProject.Name", [&] { return inner_->Name(); });
+  }
+
+ private:
+  std::shared_ptr<VBProject> inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyWindow : public Window {
+ public:
+  FaultyWindow(std::shared_ptr<Window> inner, FaultyCalls& calls)
+      : inner_(std::move(inner)), calls_(calls) {}
+  std::string Caption() override {
+    return calls_.Through("Window.Caption", [&] { return inner_->Caption(); });
+  }
+
+ private:
+  std::shared_ptr<Window> inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyVbe : public VBE {
+ public:
+  FaultyVbe(VBE& inner, FaultyCalls& calls) : inner_(inner), calls_(calls) {}
+
+  std::shared_ptr<CodePane> ActiveCodePane() override {
+    return calls_.ObjectThrough("VBE.ActiveCodePane", [&]() -> std::shared_ptr<CodePane> {
+      auto pane = inner_.ActiveCodePane();
+      return pane ? std::make_shared<FaultyCodePane>(std::move(pane), calls_) : nullptr;
+    });
+  }
+  std::shared_ptr<VBProject> ActiveVBProject() override {
+    return calls_.ObjectThrough("VBE.ActiveVBProject", [&]() -> std::shared_ptr<VBProject> {
+      auto project = inner_.ActiveVBProject();
+      return project ? std::make_shared<FaultyProject>(std::move(project), calls_) : nullptr;
+    });
+  }
+  std::shared_ptr<Window> MainWindow() override {
+    return calls_.ObjectThrough("VBE.MainWindow", [&]() -> std::shared_ptr<Window> {
+      auto window = inner_.MainWindow();
+      return window ? std::make_shared<FaultyWindow>(std::move(window), calls_) : nullptr;
+    });
+  }
+
+ private:
+  VBE& inner_;
+  FaultyCalls& calls_;
+};
+
+}  // namespace brimwork
