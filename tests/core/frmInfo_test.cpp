@@ -1,0 +1,106 @@
+#include "core/frmInfo.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace brimwork {
+namespace {
+
+std::string TagFor(int current, int total) {
+  frmInfo window;
+  window.UpdateProgressBar(current, total);
+  return window.picProgress.Tag;
+}
+
+TEST(ProgressWindow, ShowsZeroFiftyAndNinetyNinePercentOfAHundred) {
+  EXPECT_EQ(TagFor(0, 100), "0");
+  EXPECT_EQ(TagFor(50, 100), "50");
+  EXPECT_EQ(TagFor(100, 100), "99");
+}
+
+TEST(ProgressWindow, RoundsThePercentageUp) {
+  EXPECT_EQ(TagFor(1, 3), "34");
+  EXPECT_EQ(TagFor(1, 1000), "1");
+  EXPECT_EQ(TagFor(0, 1000), "0");
+}
+
+TEST(ProgressWindow, AFinishedRunStaysOneStepBelowAHundred) {
+  EXPECT_EQ(TagFor(3, 3), "67");
+  EXPECT_EQ(TagFor(2, 2), "50");
+  EXPECT_EQ(TagFor(1, 1), "0");
+  EXPECT_EQ(TagFor(1000, 1000), "100");
+}
+
+TEST(ProgressWindow, MoreThanEverythingCountsAsEverything) {
+  EXPECT_EQ(TagFor(150, 100), "99");
+  EXPECT_EQ(TagFor(4, 3), "67");
+}
+
+TEST(ProgressWindow, KeepsThePercentageWithinZeroAndAHundred) {
+  EXPECT_EQ(TagFor(-5, 100), "0");
+  EXPECT_EQ(TagFor(-5, -3), "100");
+}
+
+TEST(ProgressWindow, GoesOnWithoutATotal) {
+  EXPECT_EQ(TagFor(0, 0), "0");
+  EXPECT_EQ(TagFor(5, 0), "0");
+}
+
+TEST(ProgressWindow, CountsLinesOfTheLongestModules) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  EXPECT_EQ(TagFor(kMost, kMost), "100");
+  EXPECT_EQ(TagFor(kMost / 2, kMost), "50");
+}
+
+TEST(ProgressWindow, WritesThePercentageOnTheBar) {
+  frmInfo window;
+  window.UpdateProgressBar(50, 100);
+  EXPECT_EQ(window.picProgress.Text, "50%");
+}
+
+TEST(ProgressWindow, AMessageComesWithATitleOrKeepsTheOneThatIsThere) {
+  frmInfo window;
+  window.ProgressMessage("one", "Title");
+  EXPECT_EQ(window.lblInfo.Caption, "one");
+  EXPECT_EQ(window.Caption, "Title");
+  window.ProgressMessage("two");
+  window.ProgressMessage("three", "");
+  EXPECT_EQ(window.lblInfo.Caption, "three");
+  EXPECT_EQ(window.Caption, "Title");
+}
+
+TEST(ProgressWindow, ResetAsksForPatienceAndEmptiesTheBar) {
+  frmInfo window;
+  window.ProgressMessage("done", "Done");
+  window.UpdateProgressBar(100, 100);
+  window.ResetProgressBar();
+  EXPECT_EQ(window.lblInfo.Caption, "Processing Request...Please Wait");
+  EXPECT_EQ(window.Caption, "Processing...");
+  EXPECT_EQ(window.picProgress.Tag, "0");
+  EXPECT_EQ(window.picProgress.Text, "0%");
+}
+
+TEST(ProgressWindow, IsHiddenUntilItIsShown) {
+  frmInfo window;
+  EXPECT_FALSE(window.Visible);
+  window.Show();
+  EXPECT_TRUE(window.Visible);
+  window.Hide();
+  EXPECT_FALSE(window.Visible);
+}
+
+TEST(ProgressWindow, IsRepaintedAtOnceAfterEachChange) {
+  frmInfo window;
+  std::string painted;
+  window.OnRepaint = [&](const frmInfo& shown) {
+    painted += shown.lblInfo.Caption + '/' + shown.picProgress.Tag + ' ';
+  };
+  window.ProgressMessage("one");
+  window.UpdateProgressBar(1, 2);
+  window.ProgressMessage("two");
+  EXPECT_EQ(painted, "one/ one/50 two/50 ");
+}
+
+}  // namespace
+}  // namespace brimwork
