@@ -19,15 +19,15 @@ int Counterpart(const std::vector<AlignedStretch>& stretches, int line, int Alig
 
 }  // namespace
 
-void Alignment::Add(int before, int after) {
+void Alignment::Add(int before, int after, int count) {
   if (!stretches_.empty()) {
     AlignedStretch& last = stretches_.back();
     if (before == last.before + last.count && after == last.after + last.count) {
-      ++last.count;
+      last.count += count;
       return;
     }
   }
-  stretches_.push_back({before, after, 1});
+  stretches_.push_back({before, after, count});
 }
 
 int Alignment::AfterLine(int before) const {

@@ -15,8 +15,9 @@ struct AlignedStretch {
 
 class Alignment {
  public:
-  /// Pairs are added in ascending order of both lines. Lines never added were removed or inserted.
-  void Add(int before, int after);
+  /// count lines from before on stand at after and behind it. Added in ascending order of both
+  /// lines; what is never added was removed or inserted.
+  void Add(int before, int after, int count);
 
   const std::vector<AlignedStretch>& Stretches() const { return stretches_; }
 

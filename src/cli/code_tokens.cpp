@@ -33,8 +33,12 @@ bool IsWord(std::string_view text, std::string_view upperCaseWord) {
   return text.size() == upperCaseWord.size() && StartsWithIgnoringCase(text, upperCaseWord);
 }
 
+/// A "!" in front of another name parts the two ("fields!Name"); elsewhere it is a type character.
 std::size_t NameLength(std::string_view text) {
-  return SkipTypeCharacter(text, SkipWhile(text, 0, IsNameCharacter));
+  const std::size_t end = SkipWhile(text, 0, IsNameCharacter);
+  const bool isBang =
+      At(text, end) == '!' && (IsNameStart(At(text, end + 1)) || At(text, end + 1) == '[');
+  return isBang ? end : SkipTypeCharacter(text, end);
 }
 
 /// A name in square brackets; the rest of the line when the bracket is not closed.

@@ -80,10 +80,18 @@ class Comparison {
       script_.Change(piece.beforeCount, piece.afterCount);
     } else if (std::max(piece.beforeCount, piece.afterCount) <= kLongestPiece) {
       CompareExactly(piece);
-    } else if (rounds > 0) {
-      CutAt(piece, UniqueCommonLines(before_, after_, piece), rounds - 1);
     } else {
+      CutLongPiece(piece, rounds);
+    }
+  }
+
+  void CutLongPiece(const DiffPiece& piece, int rounds) {
+    std::vector<DiffAnchor> cuts;
+    if (rounds > 0) cuts = UniqueCommonLines(before_, after_, piece);
+    if (cuts.empty()) {
       CutEvenly(piece);
+    } else {
+      CutAt(piece, cuts, rounds - 1);
     }
   }
 

@@ -2,7 +2,6 @@
 // files however much of them changed.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "cli/file_lines.h"

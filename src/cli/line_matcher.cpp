@@ -42,10 +42,6 @@ std::string_view WithoutOwnNumber(std::string_view line, int number) {
 
 }  // namespace
 
-bool EqualTrimmed(std::string_view a, std::string_view b) {
-  return a == b || TrimBlanksAndTabs(a) == TrimBlanksAndTabs(b);
-}
-
 /// Tries same on the lines as they are and then with fewer and fewer of their labels. A line that
 /// continues another starts no statement, so a number there is no label.
 template <class Same>

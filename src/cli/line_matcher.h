@@ -5,11 +5,17 @@
 
 #include "cli/allowance.h"
 #include "environment/basic_lines.h"
+#include "environment/text.h"
 
 namespace brimwork {
 
 /// Equal but for blanks and tabs around them.
-bool EqualTrimmed(std::string_view a, std::string_view b);
+inline bool EqualTrimmed(std::string_view a, std::string_view b) {
+  // Mostly only the indent differs, and each line of a module comes through here.
+  a = TrimLeft(a, " \t");
+  b = TrimLeft(b, " \t");
+  return a == b || TrimRight(a, " \t") == TrimRight(b, " \t");
+}
 
 class LineMatcher {
  public:

@@ -25,7 +25,9 @@ class Walker {
 
   std::optional<Difference> Walk(bool behindHeader) {
     if (behindHeader && !TakeHeader()) return DifferenceAt(beforeLine_, afterLine_);
-    while (!fault_ && (HasBefore() || HasAfter())) {
+    while (!fault_) {
+      TakePlainPairs();
+      if (!HasBefore() && !HasAfter()) break;
       if (!TakePair() && !fault_ && !TakeInsertion() && !TakeRemoval()) {
         return DifferenceAt(beforeLine_, afterLine_);
       }
@@ -48,6 +50,27 @@ class Walker {
     return std::string(line <= lines.Count() ? lines.Line(line) : std::string_view());
   }
 
+  /// Takes the pairs that differ in blanks at most and carry nothing on to the next line. Most of a
+  /// module passes here.
+  void TakePlainPairs() {
+    if (inGap_ || allowance_.handler || above_ != Continues::kNothing) return;
+    const int most = std::min(before_.Count() - beforeLine_, after_.Count() - afterLine_) + 1;
+    int pairs = 0;
+    for (; pairs < most; ++pairs) {
+      const std::string_view before = before_.Line(beforeLine_ + pairs);
+      if (MayBeContinued(before)) break;
+      if (!EqualTrimmed(before, after_.Line(afterLine_ + pairs))) break;
+    }
+    if (pairs == 0) return;
+    alignment_.Add(beforeLine_, afterLine_, pairs);
+    beforeLine_ += pairs;
+    afterLine_ += pairs;
+  }
+
+  static bool MayBeContinued(std::string_view line) {
+    return !line.empty() && IsOneOf(line.back(), "_ \t") && AsksForContinuation(line);
+  }
+
   bool TakePair() {
     if (!HasBefore() || !HasAfter()) return false;
     const std::string_view before = before_.Line(beforeLine_);
@@ -56,7 +79,7 @@ class Walker {
     if (inGap_ && !ClosesGap()) return false;
     if (allowance_.handler) NoteClosing(before);
     above_ = BelowOf(before);
-    alignment_.Add(beforeLine_++, afterLine_++);
+    alignment_.Add(beforeLine_++, afterLine_++, 1);
     return true;
   }
 
