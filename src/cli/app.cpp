@@ -28,6 +28,8 @@ constexpr const char* kExamples =
     "\n"
     "Exit codes: 0 done, 1 --check found something to change, 2 an error.";
 
+constexpr std::size_t kHelpColumn = 28;
+
 struct SubcommandText {
   const char* name;
   const char* description;
@@ -46,7 +48,7 @@ constexpr SubcommandText kFriendlyCommands[] = {
      "Examples:\n"
      "  brimwork indent --write --tab-width 2 Module1.bas\n"
      "  brimwork indent - < Module1.bas"},
-    {"number", "Put line numbers in front of the statements of every procedure",
+    {"number", "Number the statements of every procedure",
      "Examples:\n"
      "  brimwork number --write Module1.bas\n"
      "  brimwork number --procedure Form_Load Form1.frm"},
@@ -54,22 +56,24 @@ constexpr SubcommandText kFriendlyCommands[] = {
      "Examples:\n"
      "  brimwork unnumber --write Module1.bas\n"
      "  brimwork unnumber --line 40 Module1.bas"},
-    {"comment", "Put separator lines around procedures and label their closing lines",
+    {"comment", "Frame procedures, label their closing lines",
      "Examples:\n"
      "  brimwork comment --diff Module1.bas\n"
      "  brimwork comment --procedure Form_Load Form1.frm"},
-    {"error-handling", "Insert the error handler of the settings into procedures",
+    {"error-handling", "Insert the error handler of the settings",
      "Examples:\n"
      "  brimwork error-handling --procedure Save --diff Module1.bas\n"
-     "  brimwork error-handling --set ErrorHandling=\"MsgBox Err.Description\" Module1.bas"},
-    {"header", "Insert the module header of the settings at the top",
+     "  brimwork error-handling --set ErrorHandling=\"MsgBox Err\" Module1.bas"},
+    {"header", "Insert the module header of the settings",
      "Examples:\n"
      "  brimwork header --write Module1.bas\n"
      "  brimwork header --adapted --now 2026-11-21 Module1.bas"},
     {"timestamp", "Insert a comment with the date and time",
      "Examples:\n"
-     "  brimwork timestamp --line 12 Module1.bas             behind the text of line 12\n"
-     "  brimwork timestamp --line 12 --column 1 Module1.bas"},
+     "  brimwork timestamp --line 12 Module1.bas\n"
+     "  brimwork timestamp --line 12 --column 1 --write Module1.bas\n"
+     "\n"
+     "Without --column, the stamp goes behind the text of the line."},
 };
 
 /// Everything that one parse of the command line leaves behind.
@@ -84,7 +88,7 @@ void AddRun(CLI::App& app, ParsedLine& line) {
   CLI::App* run = app.add_subcommand("run", "Run a command by its caption");
   run->add_option("caption", line.caption, "Caption, as \"brimwork commands\" lists it")
       ->required()
-      ->type_name("CAPTION");
+      ->option_text("CAPTION");
   AddRunOptions(*run, line.options);
   AddPlaceOptions(*run, line.options);
   run->footer(
@@ -101,7 +105,9 @@ void AddFriendlyCommand(CLI::App& app, ParsedLine& line, const SubcommandText& t
     command->add_flag("--adapted", line.options.adapted, "The header for adapted code");
   } else if (name == "cleanup") {
     command->add_option("--steps", line.options.steps, "Steps of this run, joined by commas")
-        ->type_name("STEP,...");
+        ->option_text("STEP,...");
+  } else if (name == "timestamp") {
+    AddLineOptions(*command, line.options);
   } else if (name != "indent") {
     AddPlaceOptions(*command, line.options);
   }
@@ -120,11 +126,17 @@ void AddSettings(CLI::App& app, ParsedLine& line) {
   settings->add_subcommand("path", "The file that holds the settings")
       ->footer("Example: brimwork settings path");
   CLI::App* get = settings->add_subcommand("get", "The value of a key");
-  get->add_option("key", line.settingKey)->required()->type_name("KEY");
+  get->add_option("key", line.settingKey, "As settings list names it")
+      ->required()
+      ->option_text("KEY");
   get->footer("Example: brimwork settings get Separator");
   CLI::App* set = settings->add_subcommand("set", "Store the value of a key");
-  set->add_option("key", line.settingKey)->required()->type_name("KEY");
-  set->add_option("value", line.settingValue)->required()->type_name("VALUE");
+  set->add_option("key", line.settingKey, "As settings list names it")
+      ->required()
+      ->option_text("KEY");
+  set->add_option("value", line.settingValue, "Its new text, may have several lines")
+      ->required()
+      ->option_text("VALUE");
   set->footer("Example: brimwork settings set SplashScreen False");
 }
 
@@ -133,6 +145,7 @@ void DefineCommandLine(CLI::App& app, ParsedLine& line) {
   app.footer(kExamples);
   app.set_version_flag("--version", "brimwork " BRIMWORK_VERSION);
   app.require_subcommand(1);
+  app.get_formatter()->column_width(kHelpColumn);
   AddRun(app, line);
   for (const SubcommandText& text : kFriendlyCommands) AddFriendlyCommand(app, line, text);
   app.add_subcommand("commands", "List every command of the catalogue")

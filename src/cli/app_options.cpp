@@ -67,57 +67,73 @@ int JobsOf(const AppOptions& options) {
 
 }  // namespace
 
-void AddRunOptions(CLI::App& command, AppOptions& options) {
-  command
-      .add_option("files", options.paths,
-                  "Source files, folders, projects (.vbp), groups (.vbg), or - for standard input")
-      ->type_name("FILE");
+namespace {
+
+void AddModes(CLI::App& command, AppOptions& options) {
   command.add_flag("-w,--write", options.write, "Write the result back to the files")
       ->group("Modes");
-  command
-      .add_flag("--check", options.check, "List the files that would change, exit with 1 if any")
+  command.add_flag("--check", options.check, "List files that would change; exit with 1")
       ->group("Modes");
   command.add_flag("--diff", options.diff, "Show the changes as a unified diff")->group("Modes");
+}
+
+void AddRuleOptions(CLI::App& command, AppOptions& options) {
   command.add_option("--set", options.settings, "A setting for this run only (repeatable)")
-      ->type_name("KEY=VALUE")
+      ->option_text("KEY=VALUE")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command.add_option("--tab-width", options.tabWidth, "Blanks of one indent (4)")
+  command.add_option("--tab-width", options.tabWidth, "Blanks of one indent, 0 to 32 (4)")
       ->check(CLI::Range(0, kWidestTab))
-      ->type_name("N");
-  command.add_option("--now", options.now, "The date and time of stamps, 2026-11-21T10:20:30")
-      ->type_name("TIME");
-  command.add_option("--encoding", options.encoding, "Encoding of files without a byte-order mark")
-      ->type_name("NAME")
-      ->capture_default_str();
+      ->option_text("N");
+  command.add_option("--now", options.now, "Time of stamps, as 2026-11-21T10:20:30")
+      ->option_text("TIME");
+  command.add_option("--encoding", options.encoding, "Of files without byte-order mark (cp1252)")
+      ->option_text("NAME");
   command.add_option("--stdin-filename", options.stdinFileName, "The path that - stands for")
-      ->type_name("PATH");
-  command.add_option("--jobs", options.jobs, "Files worked on at a time (one a processor)")
-      ->check(CLI::Range(1, kMostJobs))
-      ->type_name("N");
+      ->option_text("PATH");
+}
+
+void AddReportOptions(CLI::App& command, AppOptions& options) {
   const std::map<std::string, ColorChoice> choices{{"auto", ColorChoice::kAuto},
                                                    {"always", ColorChoice::kAlways},
                                                    {"never", ColorChoice::kNever}};
-  command.add_option("--color", options.color, "Colours: auto, always or never")
+  command.add_option("--jobs", options.jobs, "Files worked on at a time (one a processor)")
+      ->check(CLI::Range(1, kMostJobs))
+      ->option_text("N");
+  command.add_option("--color", options.color, "auto, always or never")
       ->transform(CLI::CheckedTransformer(choices))
-      ->type_name("WHEN");
-  command.add_flag("--unsafe", options.isUnsafe, "Write also what brimwork cannot vouch for");
+      ->option_text("WHEN");
+  command.add_flag("--unsafe", options.isUnsafe, "Write what brimwork cannot vouch for");
   command.add_flag("--no-warnings", options.noWarnings, "No warnings");
   command.add_flag("-q,--quiet", options.quiet, "Errors and warnings only");
-  command.add_flag("-v,--verbose", options.verbose, "Also name the files that stay as they are");
+  command.add_flag("-v,--verbose", options.verbose, "Also name files that stay as they are");
 }
 
-void AddPlaceOptions(CLI::App& command, AppOptions& options) {
+}  // namespace
+
+void AddRunOptions(CLI::App& command, AppOptions& options) {
+  command.add_option("files", options.paths, "Files, folders, .vbp, .vbg, or - (standard input)")
+      ->option_text("FILE...");
+  AddModes(command, options);
+  AddRuleOptions(command, options);
+  AddReportOptions(command, options);
+}
+
+void AddLineOptions(CLI::App& command, AppOptions& options) {
   command.add_option("--line", options.place.line, "Only at this line of the file")
       ->check(CLI::PositiveNumber)
-      ->type_name("N")
+      ->option_text("N")
       ->group("Place");
   command.add_option("--column", options.place.column, "Column in that line (behind its text)")
       ->check(CLI::PositiveNumber)
-      ->type_name("C")
+      ->option_text("C")
       ->group("Place");
+}
+
+void AddPlaceOptions(CLI::App& command, AppOptions& options) {
+  AddLineOptions(command, options);
   command.add_option("--procedure", options.place.procedure, "Only in the procedures of this name")
-      ->type_name("NAME")
+      ->option_text("NAME")
       ->group("Place");
 }
 

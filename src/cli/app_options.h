@@ -38,6 +38,9 @@ struct AppOptions {
 /// The options that every command on files takes.
 void AddRunOptions(CLI::App& command, AppOptions& options);
 
+/// --line and --column.
+void AddLineOptions(CLI::App& command, AppOptions& options);
+
 /// --line, --column and --procedure.
 void AddPlaceOptions(CLI::App& command, AppOptions& options);
 

@@ -37,8 +37,9 @@ std::string_view Behind(const ModuleText& text, Position position) {
 
 void MemoryCodePane::SetSelection(const Selection& selection) {
   const ModuleText& text = module_->Text();
-  const auto [start, end] = std::minmax(Clamped(text, selection.startLine, selection.startColumn),
-                                        Clamped(text, selection.endLine, selection.endColumn));
+  const Position from = Clamped(text, selection.startLine, selection.startColumn);
+  const Position to = Clamped(text, selection.endLine, selection.endColumn);
+  const auto [start, end] = std::minmax({from, to});
   selection_ = {start.line, start.column, end.line, end.column};
 }
 
@@ -61,9 +62,7 @@ void MemoryCodePane::Copy(Clipboard& clipboard) {
   if (!selected.empty()) clipboard.SetText(selected);
 }
 
-void MemoryCodePane::Paste(Clipboard& clipboard) {
-  Type(clipboard.GetText());
-}
+void MemoryCodePane::Paste(Clipboard& clipboard) { Type(clipboard.GetText()); }
 
 void MemoryCodePane::SelectAll() {
   const int lines = module_->CountOfLines();

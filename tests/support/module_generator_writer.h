@@ -64,7 +64,7 @@ class Writer {
   std::string text_;
   int lines_ = 0;
   int depth_ = 0;
-  int label_ = 0;  // the latest old line number, -1 in a procedure without them
+  int label_ = -1;  // the latest old line number, -1 in a procedure without them
 };
 
 }  // namespace brimwork::module_generator
