@@ -76,7 +76,8 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
   if (!place.IsGiven() && !onModule && NeedsPlace(caption)) {
     throw UsageError(Quoted(caption) + " works at one place: give --line N or --procedure NAME");
   }
-  return {std::string(caption), place, !place.IsGiven() && onModule};
+  const PlaceRequest where = NeedsPlace(caption) ? place : PlaceRequest{};
+  return {std::string(caption), where, !place.IsGiven() && onModule};
 }
 
 std::string_view CaptionOf(std::string_view commandName) {
