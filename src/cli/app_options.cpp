@@ -12,6 +12,7 @@
 #include "environment/text.h"
 #include "memory/json_settings_area.h"
 #include "memory/locale_clock.h"
+#include "memory/text_codec.h"
 #include "settings/setting_keys.h"
 #include "settings/settings.h"
 
@@ -61,6 +62,15 @@ SettingValues SettingsOfRun(const AppOptions& options) {
   return settings;
 }
 
+/// A wrong name is told once instead of for each file.
+std::string CheckedEncoding(const std::string& encoding) {
+  try {
+    return TextCodec(encoding).Encoding();
+  } catch (const std::invalid_argument& error) {
+    throw UsageError("--encoding: " + std::string(error.what()));
+  }
+}
+
 int JobsOf(const AppOptions& options) {
   return options.jobs.value_or(std::max(1, static_cast<int>(std::thread::hardware_concurrency())));
 }
@@ -80,8 +90,7 @@ void AddModes(CLI::App& command, AppOptions& options) {
 void AddRuleOptions(CLI::App& command, AppOptions& options) {
   command.add_option("--set", options.settings, "A setting for this run only (repeatable)")
       ->option_text("KEY=VALUE")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+      ->allow_extra_args(false);
   command.add_option("--tab-width", options.tabWidth, "Blanks of one indent, 0 to 32 (4)")
       ->check(CLI::Range(0, kWidestTab))
       ->option_text("N");
@@ -145,7 +154,7 @@ RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options)
   run.diff = options.diff;
   run.isUnsafe = options.isUnsafe;
   run.warnings = !options.noWarnings;
-  run.encoding = options.encoding;
+  run.encoding = CheckedEncoding(options.encoding);
   run.tabWidth = options.tabWidth;
   run.settings = SettingsOfRun(options);
   run.now = ResolveNow(options.now);

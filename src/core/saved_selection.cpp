@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "environment/basic_lines.h"
+
 namespace brimwork {
 namespace {
 
@@ -26,7 +28,20 @@ class Nearest {
   std::optional<int> best_;
 };
 
+/// Blank lines are told apart by nothing but their place.
+std::optional<int> NearestBlankLine(CodeModule& module, int oldLine) {
+  const int count = module.CountOfLines();
+  for (int distance = 0; distance < count; ++distance) {
+    const int above = oldLine - distance;
+    const int below = oldLine + distance;
+    if (above >= 1 && above <= count && IsBlankLine(module.Lines(above, 1))) return above;
+    if (below <= count && IsBlankLine(module.Lines(below, 1))) return below;
+  }
+  return std::nullopt;
+}
+
 std::optional<int> FindLineNow(CodeModule& module, const std::string& text, int oldLine) {
+  if (IsBlankLine(text)) return NearestBlankLine(module, oldLine);
   Nearest equal(oldLine);
   Nearest containing(oldLine);
   Selection match{1, 1, -1, -1};

@@ -86,11 +86,11 @@ int GetProcedureBounds(Context& context, CodeModule& module, int line) {
 }
 
 std::optional<int> FindClosingLine(CodeModule& module, int firstLine, int lastLine) {
-  for (int line = lastLine; line >= firstLine; --line) {
-    const bool continuesAbove = line > firstLine && IsContinued(module.Lines(line - 1, 1));
-    const Continues above = continuesAbove ? Continues::kStatement : Continues::kNothing;
-    if (ClosesProcedure(module.Lines(line, 1), above)) return line;
-    if (!continuesAbove) break;
+  Continues above = Continues::kNothing;
+  for (int line = StatementStart(module, lastLine, firstLine); line <= lastLine; ++line) {
+    const std::string text = module.Lines(line, 1);
+    if (ClosesProcedure(text, above)) return line;
+    above = ContinuedBelow(text, above);
   }
   return std::nullopt;
 }
