@@ -1,13 +1,17 @@
 #include "cli/app.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "cli/app_options.h"
 #include "cli/command_request.h"
 #include "cli/commands_list.h"
 #include "cli/console.h"
+#include "cli/near_miss.h"
 #include "cli/run_files.h"
 #include "cli/settings_command.h"
 
@@ -181,10 +185,26 @@ int RunSubcommand(const CLI::App& app, const ParsedLine& line, Console& console)
   return RunFiles(MakeRunOptions(CaptionAskedFor(name, line), line.options), console);
 }
 
+/// The hint for a first word that should have been a subcommand, "" when it is one.
+std::string UnknownSubcommand(const CLI::App& app, const std::string& word) {
+  std::vector<std::string> names;
+  for (const CLI::App* subcommand : app.get_subcommands({}))
+    names.push_back(subcommand->get_name());
+  if (std::ranges::find(names, word) != names.end()) return {};
+  return "there is no command \"" + word + '"' +
+         NearMissHint(word, std::vector<std::string_view>(names.begin(), names.end()));
+}
+
 /// Help and version are printed and done; anything else is one line on standard error.
-int TellParseError(const CLI::App& app, const CLI::ParseError& error, Console& console) {
+int TellParseError(const CLI::App& app, const CLI::ParseError& error, const std::string& firstWord,
+                   Console& console) {
   if (error.get_exit_code() == 0) return app.exit(error);
-  console.Error(std::string(error.what()) + " (\"brimwork --help\" shows how)");
+  std::string problem = error.what();
+  if (!firstWord.empty() && !firstWord.starts_with('-')) {
+    const std::string unknown = UnknownSubcommand(app, firstWord);
+    if (!unknown.empty()) problem = unknown;
+  }
+  console.Error(problem + " (\"brimwork --help\" shows how)");
   return exit_code::kError;
 }
 
@@ -198,7 +218,7 @@ int RunApp(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return TellParseError(app, error, plain);
+    return TellParseError(app, error, argc > 1 ? argv[1] : "", plain);
   }
   Console console(line.options.color, line.options.quiet, line.options.verbose);
   try {
