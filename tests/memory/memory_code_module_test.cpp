@@ -147,6 +147,15 @@ TEST_F(MemoryCodeModuleTest, ProcOfLineNamesTheProcedureAsItsDeclarationWritesIt
   EXPECT_EQ(module.ProcOfLine(99).name, "");
 }
 
+TEST_F(MemoryCodeModuleTest, ADeclarationKeepsItsNameWithOtherBlanksAroundIt) {
+  MemoryCodeModule module = Holding({"  Sub Total$(x)", "End Sub"});
+  ASSERT_EQ(module.ProcOfLine(1).name, "Total");
+  module.ReplaceLine(1, "\t\tSub Total$(x)  \t");
+  EXPECT_EQ(module.ProcOfLine(1).name, "Total");
+  module.ReplaceLine(1, "Sub Total$(x)");
+  EXPECT_EQ(module.ProcOfLine(2).name, "Total");
+}
+
 TEST_F(MemoryCodeModuleTest, ProcOfLineGivesTheKind) {
   MemoryCodeModule module = Holding({"Property Get A()", "End Property", "Property Let A(x)",
                                      "End Property", "Property Set A(x)", "End Property"});

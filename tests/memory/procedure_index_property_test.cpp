@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 
+#include "environment/text.h"
 #include "memory/memory_code_module.h"
 #include "support/module_generator.h"
 #include "support/procedure_list.h"
@@ -115,12 +116,13 @@ TEST_P(ProcedureIndexUnderRandomEdits, AnEditedModuleNamesTheProceduresOfItsText
   for (int edit = 0; edit < 150 && !HasFatalFailure(); ++edit) {
     SCOPED_TRACE(edit);
     const int line = 1 + Below(edited.CountOfLines());
-    const std::string indent(static_cast<std::size_t>(Below(4)), Below(2) == 0 ? ' ' : '\t');
+    const auto blanks = [&] {
+      return std::string(static_cast<std::size_t>(Below(4)), Below(2) == 0 ? ' ' : '\t');
+    };
     const std::string now = edited.Lines(line, 1);
     switch (Below(4)) {
       case 0:
-        edited.ReplaceLine(line,
-                           indent + now.substr(std::min(now.size(), now.find_first_not_of(" \t"))));
+        edited.ReplaceLine(line, blanks().append(TrimBlanksAndTabs(now)).append(blanks()));
         break;
       case 1:
         edited.ReplaceLine(line, Text(1 + Below(2)));

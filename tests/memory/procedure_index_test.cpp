@@ -144,6 +144,15 @@ TEST(ProcedureIndex, TheClosingLineEndsWithItsLastContinuingLine) {
   EXPECT_THAT(Procedures({"Sub A()", "End Sub _", ""}), ElementsAre("A 1/1/3"));
 }
 
+TEST(ProcedureIndex, AContinuedClosingLineAtTheEndTakesInALineThatIsAppendedLater) {
+  ModuleText text = ModuleText::FromText(JoinedLines({"Sub A()", "End Sub ' done _"}));
+  ProcedureIndex index;
+  ASSERT_THAT(ProceduresIn(index, text), ElementsAre("A 1/1/2"));
+  text.Insert(3, "really");
+  index.NoteEdit(3);
+  EXPECT_THAT(ProceduresIn(index, text), ElementsAre("A 1/1/3"));
+}
+
 TEST(ProcedureIndex, AnUnclosedProcedureEndsBeforeTheCommentAndBlankLinesOfTheNext) {
   EXPECT_THAT(Procedures({"Sub A()", "x = 1", "", "' about B", "Sub B()", "End Sub"}),
               ElementsAre("A 1/1/2", "B 3/5/6"));
