@@ -71,7 +71,7 @@ TEST_F(Encodings, AnUnknownOneIsAnError) {
   EXPECT_EQ(LinesOf(result.error).size(), 1u);
 }
 
-TEST_F(Encodings, ABytethatIsNoTextIsAnErrorWithItsLineAndColumn) {
+TEST_F(Encodings, AByteThatIsNoTextIsAnErrorWithItsLineAndColumn) {
   const std::string bytes = "Sub A()\nx = \"\x81\"\nEnd Sub\n";
   place.Write("m.bas", bytes);
   const ProgramResult result = place.Run({"indent", "--write", "m.bas"});
