@@ -97,6 +97,8 @@ class Walker {
 
   Continues BelowOf(std::string_view line) const {
     if (!AsksForContinuation(line)) return Continues::kNothing;
+    const std::string_view text = TrimRight(line, " \t");
+    if (IsContinued(text)) return ContinuedBelow(text, above_);
     CodeTokenizer tokenizer(line, above_);
     while (tokenizer.Next()) {
     }

@@ -68,6 +68,8 @@ std::string_view BehindNumericLabel(std::string_view text) {
 /// the search).
 template <class Visit>
 std::size_t ForEachStatementBehindColon(std::string_view line, Visit visit) {
+  const std::string_view firstStatement = BehindNumericLabel(SkipBlanks(line));
+  if (StartsWithRem(firstStatement)) return line.size() - firstStatement.size();
   bool inLiteral = false;
   for (std::size_t at = 0; at < line.size(); ++at) {
     const char c = line[at];

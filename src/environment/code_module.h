@@ -48,6 +48,9 @@ class CodeModule {
   /// reading wholly behind the end gives "". Line 0 raises error 9.
   virtual std::string Lines(int startLine, int count) = 0;
 
+  /// Lines(line, 1) into a string of the caller's: who reads line after line need not allocate each.
+  virtual void ReadLine(int line, std::string& text) { text = Lines(line, 1); }
+
   /// Inserts text before line; CR LF in it makes several lines, n line ends n + 1 lines. Behind the
   /// end it appends. Line 0 raises error 9.
   virtual void InsertLines(int line, std::string_view text) = 0;

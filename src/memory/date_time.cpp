@@ -72,6 +72,7 @@ DateTime FromSourceDateEpoch(const std::string& text) {
 DateTime FromLocalClock() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
+  tzset();  // localtime_r need not look at TZ by itself
   localtime_r(&now, &local);
   // A leap second has no place in Visual Basic's dates.
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,

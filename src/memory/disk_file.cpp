@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <memory>
 
+#include "memory/huge_pages.h"
 #include "memory/posix_file.h"
 #include "memory/source_error.h"
 #include "memory/temporary_file.h"
@@ -32,7 +33,10 @@ SourceError ChangedWhileRead(const std::string& path) {
 /// Reads size bytes, or fewer when the file has become shorter; one byte more when it has become
 /// longer.
 std::string ReadBytes(const Descriptor& file, std::size_t size, const std::string& path) {
-  std::string bytes(size + 1, '\0');
+  std::string bytes;
+  bytes.reserve(size + 1);
+  PreferHugePages(bytes.data(), size + 1);
+  bytes.resize(size + 1);
   std::size_t have = 0;
   while (have < bytes.size()) {
     const ssize_t count = read(file.Number(), bytes.data() + have, bytes.size() - have);

@@ -43,6 +43,11 @@ std::string MemoryCodeModule::Lines(int startLine, int count) {
   return lines;
 }
 
+void MemoryCodeModule::ReadLine(int line, std::string& text) {
+  CheckLine(line);
+  text = line <= text_.Count() ? text_.Line(line) : std::string_view{};
+}
+
 void MemoryCodeModule::InsertLines(int line, std::string_view text) {
   CheckLine(line);
   const int at = std::min(line, text_.Count() + 1);

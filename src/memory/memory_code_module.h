@@ -18,6 +18,7 @@ class MemoryCodeModule : public CodeModule {
   int CountOfLines() override { return text_.Count(); }
   int CountOfDeclarationLines() override { return index_.DeclarationLines(text_); }
   std::string Lines(int startLine, int count) override;
+  void ReadLine(int line, std::string& text) override;
   void InsertLines(int line, std::string_view text) override;
   void DeleteLines(int startLine, int count) override;
   void ReplaceLine(int line, std::string_view text) override;

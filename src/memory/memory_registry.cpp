@@ -14,6 +14,7 @@ int MemoryRegistry::OpenKey(std::uint32_t hive, std::string_view path, std::uint
                             RegistryKey& key) {
   ++opens_;
   lastAccess_ = access;
+  if (keys_.empty() && denied_.empty()) return registry_status::kFileNotFound;
   const KeyPath wanted = Folded(hive, path);
   if (denied_.contains(wanted)) return registry_status::kAccessDenied;
   if (!keys_.contains(wanted)) return registry_status::kFileNotFound;

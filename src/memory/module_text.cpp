@@ -7,11 +7,14 @@
 
 #include "environment/run_time_error.h"
 #include "environment/text.h"
+#include "memory/huge_pages.h"
+#include "memory/utf8.h"
 
 namespace brimwork {
 namespace {
 
-constexpr std::size_t kBlockBytes = 256 * 1024;
+constexpr std::size_t kFirstBlockBytes = 256 * 1024;
+constexpr std::size_t kLargestBlockBytes = 16 * 1024 * 1024;
 
 }  // namespace
 
@@ -31,6 +34,11 @@ ModuleText ModuleText::FromText(std::string text) {
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   }
   return module;
+}
+
+void ModuleText::Reserve(std::size_t lines) {
+  slots_.reserve(lines + kSpareSlots);
+  PreferHugePages(slots_.data(), slots_.capacity() * sizeof(TextLine));
 }
 
 void ModuleText::AppendOriginal(std::string_view line, LineEnd end) {
@@ -118,15 +126,18 @@ void ModuleText::SetText(TextLine& slot, std::string_view text) {
 }
 
 const char* ModuleText::Store(std::string_view text) {
-  if (storedBytes_ > 4 * liveBytes_ + 16 * kBlockBytes) Compact();
+  if (storedBytes_ > 4 * liveBytes_ + 16 * kFirstBlockBytes) Compact();
   if (text.empty()) return "";
   if (text.size() > blockLeft_) {
-    blockLeft_ = std::max(text.size(), kBlockBytes);
+    const std::size_t wanted = std::clamp(storedBytes_ / 2, kFirstBlockBytes, kLargestBlockBytes);
+    blockLeft_ = std::max(text.size(), wanted);
     blocks_.push_back(std::make_unique_for_overwrite<char[]>(blockLeft_));
     blockNext_ = blocks_.back().get();
+    PreferHugePages(blockNext_, blockLeft_);
   }
   char* const stored = blockNext_;
   std::memcpy(stored, text.data(), text.size());
+  storedAsciiOnly_ = storedAsciiOnly_ && FindNonAscii(text, 0) == text.size();
   blockNext_ += text.size();
   blockLeft_ -= text.size();
   storedBytes_ += text.size();

@@ -36,7 +36,7 @@ class ModuleText {
   ModuleText& operator=(ModuleText&&) = default;
 
   // Building, before the first edit.
-  void Reserve(std::size_t lines) { slots_.reserve(lines + kSpareSlots); }
+  void Reserve(std::size_t lines);
   void AppendOriginal(std::string_view line, LineEnd end);
   /// Hangs a hidden line behind the last line appended (before line 1 when there is none).
   void AppendHidden(HiddenLine hidden);
@@ -60,6 +60,9 @@ class ModuleText {
   void Insert(int line, std::string_view text);
   /// Hidden lines of a deleted line go behind the line above it.
   void Delete(int line, int count);
+
+  /// True as long as no text with other characters than ASCII was written into the module.
+  bool StoredAsciiOnly() const { return storedAsciiOnly_; }
 
   /// All lines with CR LF between them.
   std::string Joined() const;
@@ -102,6 +105,7 @@ class ModuleText {
   std::size_t blockLeft_ = 0;
   std::size_t storedBytes_ = 0;  // in blocks_, dead ones included
   std::size_t liveBytes_ = 0;    // of lines that point into blocks_
+  bool storedAsciiOnly_ = true;
 
   std::vector<std::vector<HiddenLine>> hiddenGroups_{{}};  // group 0 is empty
   std::uint32_t hiddenBeforeFirst_ = 0;

@@ -8,17 +8,6 @@
 #include "memory/utf8.h"
 
 namespace brimwork {
-namespace {
-
-bool IsAscii(const ModuleText& text) {
-  for (int line = 1; line <= text.Count(); ++line) {
-    const std::string_view chars = text.Line(line);
-    if (FindNonAscii(chars, 0) != chars.size()) return false;
-  }
-  return true;
-}
-
-}  // namespace
 
 SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::string& encoding) {
   SourceFile file;
@@ -26,6 +15,7 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
   SourceText source = DecodeSource(std::move(bytes), file.path_, encoding);
   file.codec_ = std::make_unique<TextCodec>(std::move(source.codec));
   file.text_ = std::make_shared<const std::string>(std::move(source.text));
+  file.readAscii_ = FindNonAscii(*file.text_, 0) == file.text_->size();
   ParsedSource parsed = ReadLayout(file.text_, file.path_);
   file.layout_ = std::move(parsed.layout);
   file.module_ = std::move(parsed.text);
@@ -36,7 +26,7 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
 }
 
 void SourceFile::RequireEncodable(const ModuleText& text) const {
-  if (codec_->IsAsciiCompatible() && IsAscii(text)) return;
+  if (codec_->IsAsciiCompatible() && readAscii_ && text.StoredAsciiOnly()) return;
   Compose(text, [](std::string_view) {});
 }
 

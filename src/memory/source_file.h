@@ -65,6 +65,7 @@ class SourceFile {
   std::string moduleName_;
   std::unique_ptr<TextCodec> codec_;
   std::shared_ptr<const std::string> text_;
+  bool readAscii_ = false;
   SourceLayout layout_;
   ModuleText module_;
 };

@@ -43,8 +43,12 @@ int DeleteBlankLinesAbove(CodeModule& module, int line, int firstLine) {
   return line;
 }
 
-void DeleteBlankLinesAt(CodeModule& module, int line) {
-  while (line < module.CountOfLines() && IsEmptyLine(module, line)) module.DeleteLines(line, 1);
+/// Deletes the run of empty lines that starts at line. At the end of the module one of several stays.
+void DeleteEmptyLinesAt(CodeModule& module, int line) {
+  while (line <= module.CountOfLines() && Trim(module.Lines(line, 1)).empty()) {
+    module.DeleteLines(line, 1);
+    if (line >= module.CountOfLines()) return;
+  }
 }
 
 std::string Labelled(std::string_view closingLine, std::string_view signature) {
@@ -74,7 +78,7 @@ void CloseFrame(const ProcedureLines& procedure, std::string_view separator,
   CodeModule& module = procedure.module;
   const auto closing = FindClosingLine(module, procedure.Body(), procedure.Behind() - 1);
   if (!closing) return;
-  DeleteBlankLinesAt(module, procedure.Behind());
+  DeleteEmptyLinesAt(module, procedure.Behind());
   LabelClosingLine(procedure, *closing, signature);
   PutSeparatorBelow(module, procedure.Behind() - 1, separator);
 }

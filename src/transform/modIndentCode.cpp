@@ -1,6 +1,7 @@
 #include "transform/modIndentCode.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -29,6 +30,20 @@ int ContinuedCommentColumn(std::string_view comment) {
   std::size_t column = comment.starts_with("Rem ") ? 5 : 2;
   while (comment[column - 1] != ' ' && comment[column - 1] != '\'') ++column;
   return CharacterCount(comment.substr(0, column - 1));
+}
+
+/// What a line must hold before its literals, comment and colons are looked at.
+constexpr std::array<bool, 256> kMarks = [] {
+  std::array<bool, 256> marks{};
+  for (const unsigned char mark : {'"', '\'', ':'}) marks[mark] = true;
+  return marks;
+}();
+
+bool HasMarks(std::string_view code) {
+  for (const char c : code) {
+    if (kMarks[static_cast<unsigned char>(c)]) return true;
+  }
+  return false;
 }
 
 std::size_t FindQuoteOrApostrophe(std::string_view code) {
@@ -86,10 +101,11 @@ class Indenter {
   }
 
   void IndentStatement(std::string_view code) {
-    PrepareWorkCopy(code);
+    const bool isPlain = !HasMarks(code);
+    PrepareWorkCopy(code, isPlain);
     ChangeLevel(-keywords_.procedureClosers.CountAtStart(work_));
     ChangeLevel(-keywords_.blockClosers.CountAtStart(work_));
-    const bool hasColons = Contains(work_, ": ");
+    const bool hasColons = !isPlain && Contains(work_, ": ");
     const int closersBehindColons = hasColons ? keywords_.blockClosers.CountBehindColons(work_) : 0;
     AppendLevelIndent();
     result_.append(code);
@@ -103,8 +119,12 @@ class Indenter {
   }
 
   /// The code as keywords are looked for in it: literals emptied, the comment cut, a blank behind.
-  void PrepareWorkCopy(std::string_view code) {
+  void PrepareWorkCopy(std::string_view code, bool isPlain) {
     work_.clear();
+    if (isPlain) {
+      work_.append(code) += ' ';
+      return;
+    }
     auto special = FindQuoteOrApostrophe(code);
     while (special != std::string_view::npos && code[special] == '"') {
       const auto closing = code.find('"', special + 1);
@@ -170,8 +190,10 @@ class Indenter {
 void IndentCode(Context& context, int firstLine, int lastLine) {
   WithCodeSource(context.environment, [&](CodeModule& module) {
     Indenter indenter(ReadIndentUnit(context.environment));
+    std::string text;
     for (int line = firstLine; line <= lastLine; ++line) {
-      module.ReplaceLine(line, indenter.Indented(module.Lines(line, 1), line));
+      module.ReadLine(line, text);
+      module.ReplaceLine(line, indenter.Indented(text, line));
     }
   });
 }

@@ -53,8 +53,9 @@ std::string_view Unnumbered(std::string_view text) {
 void AddLineNumbers(Context& context, int firstLine, int lastLine) {
   WithCodeSource(context.environment, [&](CodeModule& module) {
     bool continuesStatement = false;
+    std::string text;
     for (int line = firstLine; line <= lastLine; ++line) {
-      const std::string text = module.Lines(line, 1);
+      module.ReadLine(line, text);
       module.ReplaceLine(line, Numbered(text, line, continuesStatement));
       continuesStatement = text.ends_with('_');
     }
@@ -63,8 +64,9 @@ void AddLineNumbers(Context& context, int firstLine, int lastLine) {
 
 void RemoveLineNumbers(Context& context, int firstLine, int lastLine) {
   WithCodeSource(context.environment, [&](CodeModule& module) {
+    std::string text;
     for (int line = firstLine; line <= lastLine; ++line) {
-      const std::string text = module.Lines(line, 1);
+      module.ReadLine(line, text);
       module.ReplaceLine(line, Unnumbered(text));
     }
   });

@@ -77,6 +77,7 @@ int GetProcedureBounds(Context& context, CodeModule& module, int line) {
     } else {
       if (record.module != module.Identity()) record = {};
       record.CurrentProcName.clear();
+      record.CurrentProcKind = found.kind;
     }
   } catch (const RunTimeError&) {
     record = {};

@@ -157,5 +157,14 @@ TEST(BasicLines, AClosingStatementInACommentClosesNothing) {
   EXPECT_FALSE(ClosesProcedure("x: End Sub", kComment));
 }
 
+TEST(ClosesProcedure, NotInARemBehindANumericLabel) {
+  EXPECT_FALSE(ClosesProcedure("10 Rem closed by: End Sub", Continues::kNothing));
+  EXPECT_TRUE(ClosesProcedure("10 Remove: End Sub", Continues::kNothing));
+}
+
+TEST(ContinuedBelow, IsACommentBehindARemBehindANumericLabel) {
+  EXPECT_EQ(ContinuedBelow("10 Rem goes on _", Continues::kNothing), Continues::kComment);
+}
+
 }  // namespace
 }  // namespace brimwork

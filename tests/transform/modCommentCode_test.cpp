@@ -136,6 +136,11 @@ TEST(CommentProcedure, OneBlankLineMayStayAtTheModulesEnd) {
   EXPECT_THAT(CommentedAt(2, once), ElementsAreArray(once));
 }
 
+TEST(CommentProcedure, AnEmptyLineThatEndsTheModuleMakesWayForTheSeparator) {
+  EXPECT_THAT(CommentedAt(1, {"Sub A()", "End Sub", ""}),
+              ElementsAre(S, "Sub A()", "End Sub 'A()", S));
+}
+
 // Calls without the dispatcher.
 
 TEST(CommentProcedure, ReturnsTheLineBehindTheProcedurePlusOneAsItIsAfterwards) {
