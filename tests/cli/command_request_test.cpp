@@ -1,0 +1,92 @@
+#include "cli/command_request.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace brimwork {
+namespace {
+
+using testing::HasSubstr;
+
+PlaceRequest AtLine(int line) {
+  PlaceRequest place;
+  place.line = line;
+  return place;
+}
+
+PlaceRequest InProcedure(const std::string& name) {
+  PlaceRequest place;
+  place.procedure = name;
+  return place;
+}
+
+std::string ErrorOf(std::string_view caption, const PlaceRequest& place) {
+  try {
+    MakeCommandRequest(caption, place);
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+TEST(CommandRequest, WithoutAPlaceIsOnTheWholeModule) {
+  const CommandRequest request = MakeCommandRequest("Add Line Numbers", {});
+  EXPECT_EQ(request.caption, "Add Line Numbers");
+  EXPECT_TRUE(request.wholeModule);
+}
+
+TEST(CommandRequest, AtAPlaceIsOnOneProcedure) {
+  EXPECT_FALSE(MakeCommandRequest("Add Line Numbers", AtLine(3)).wholeModule);
+  const CommandRequest request = MakeCommandRequest("Comment Procedure", InProcedure("Main"));
+  EXPECT_FALSE(request.wholeModule);
+  EXPECT_EQ(request.place.procedure, "Main");
+}
+
+TEST(CommandRequest, OfAHeaderNeedsNoPlaceAndIsNoWalk) {
+  EXPECT_FALSE(MakeCommandRequest("Standard Header", {}).wholeModule);
+  EXPECT_FALSE(MakeCommandRequest("Adapted Header", {}).wholeModule);
+}
+
+TEST(CommandRequest, ComparesCaptionsExactly) {
+  EXPECT_THAT(ErrorOf("add line numbers", {}), HasSubstr("did you mean \"Add Line Numbers\"?"));
+  EXPECT_THAT(ErrorOf("Add Line Numbers ", {}), HasSubstr("there is no command"));
+  EXPECT_THAT(ErrorOf("", {}), HasSubstr("brimwork commands"));
+}
+
+TEST(CommandRequest, RefusesWhatOnlyTheEditorCanDo) {
+  EXPECT_THAT(ErrorOf("Full Screen", {}), HasSubstr("\"Full Screen\""));
+  EXPECT_THAT(ErrorOf("Contents", {}), HasSubstr("\"Contents\""));
+}
+
+TEST(CommandRequest, RefusesAPlaceForTheWholeModule) {
+  EXPECT_THAT(ErrorOf("Indent All Procedures", AtLine(1)), HasSubstr("whole module"));
+  EXPECT_THAT(ErrorOf("Code Clean Up", InProcedure("Main")), HasSubstr("whole module"));
+}
+
+TEST(CommandRequest, AsksForAPlaceWhereOneIsNeeded) {
+  EXPECT_THAT(ErrorOf("Comment Procedure", {}), HasSubstr("--line N"));
+  EXPECT_THAT(ErrorOf("Insert Time Stamp", {}), HasSubstr("--line N"));
+}
+
+TEST(CommandRequest, RefusesPlacesThatContradictEachOther) {
+  PlaceRequest both = AtLine(1);
+  both.procedure = "Main";
+  EXPECT_THAT(ErrorOf("Add Line Numbers", both), HasSubstr("--line and --procedure"));
+  PlaceRequest columnAlone;
+  columnAlone.column = 1;
+  EXPECT_THAT(ErrorOf("Add Line Numbers", columnAlone), HasSubstr("--column needs --line"));
+  EXPECT_THAT(ErrorOf("Insert Time Stamp", InProcedure("Main")), HasSubstr("--line N"));
+}
+
+TEST(FriendlyNames, StandForCaptionsAndBack) {
+  EXPECT_EQ(CaptionOf("cleanup"), "Code Clean Up");
+  EXPECT_EQ(CaptionOf("comment"), "Comment All Procedures");
+  EXPECT_EQ(CaptionOf("nothing"), "");
+  EXPECT_EQ(CommandNameOf("Comment All Procedures"), "comment");
+  EXPECT_EQ(CommandNameOf("Comment Procedure"), "comment");
+  EXPECT_EQ(CommandNameOf("Adapted Header"), "header --adapted");
+  EXPECT_EQ(CommandNameOf("Full Screen"), "");
+}
+
+}  // namespace
+}  // namespace brimwork
