@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "environment/byte_words.h"
 #include "environment/run_time_error.h"
 #include "environment/text.h"
 #include "memory/huge_pages.h"
@@ -56,8 +57,9 @@ void ModuleText::AppendHidden(HiddenLine hidden) {
 }
 
 void ModuleText::Replace(int line, std::string_view text) {
-  const auto lineEnd = text.find('\n');
-  if (lineEnd == std::string_view::npos) {
+  const bool isPlain = !HoldsLineFeedOrNonAscii(text);
+  storedAsciiOnly_ = storedAsciiOnly_ && (isPlain || FindNonAscii(text, 0) == text.size());
+  if (isPlain || !Contains(text, "\n")) {
     TextLine& slot = Slot(line);
     if (slot.Text() != text) SetText(slot, text);
     return;
@@ -71,6 +73,7 @@ void ModuleText::Replace(int line, std::string_view text) {
 
 void ModuleText::Insert(int line, std::string_view text) {
   const std::vector<std::string_view> lines = SplitLines(text);
+  storedAsciiOnly_ = storedAsciiOnly_ && FindNonAscii(text, 0) == text.size();
   MoveGap(static_cast<std::size_t>(line - 1), lines.size());
   for (std::string_view inserted : lines) {
     TextLine slot;
@@ -137,7 +140,6 @@ const char* ModuleText::Store(std::string_view text) {
   }
   char* const stored = blockNext_;
   std::memcpy(stored, text.data(), text.size());
-  storedAsciiOnly_ = storedAsciiOnly_ && FindNonAscii(text, 0) == text.size();
   blockNext_ += text.size();
   blockLeft_ -= text.size();
   storedBytes_ += text.size();

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "environment/byte_words.h"
 #include "environment/text.h"
 
 namespace brimwork {
@@ -34,7 +35,7 @@ class LineCursor {
   }
 
   bool ClosesProcedureHere() const {
-    const bool mayClose = StartsStatement("Ee0123456789") || Contains(current_, ":");
+    const bool mayClose = StartsStatement("Ee0123456789") || ContainsOneOf<':'>(current_);
     return mayClose && !isComment_ && ClosesProcedure(current_, above_);
   }
 

@@ -1,6 +1,7 @@
 // Lines as they stand on disk: text and line end apart, a lone CR being text.
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "memory/module_text.h"
@@ -33,13 +34,9 @@ inline RawLine TakeLine(std::string_view& rest) {
 
 /// Number of lines that TakeLine finds.
 inline std::size_t CountLines(std::string_view text) {
-  std::size_t lines = 0;
-  while (!text.empty()) {
-    const auto lineFeed = text.find('\n');
-    text.remove_prefix(lineFeed == std::string_view::npos ? text.size() : lineFeed + 1);
-    ++lines;
-  }
-  return lines;
+  const auto lineFeeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  const bool lastIsUnended = !text.empty() && text.back() != '\n';
+  return lineFeeds + (lastIsUnended ? 1 : 0);
 }
 
 }  // namespace brimwork

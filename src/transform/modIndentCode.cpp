@@ -1,11 +1,11 @@
 #include "transform/modIndentCode.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <limits>
 #include <string>
 
+#include "environment/byte_words.h"
 #include "environment/run_time_error.h"
 #include "environment/text.h"
 #include "settings/modRegistry.h"
@@ -32,19 +32,8 @@ int ContinuedCommentColumn(std::string_view comment) {
   return CharacterCount(comment.substr(0, column - 1));
 }
 
-/// What a line must hold before its literals, comment and colons are looked at.
-constexpr std::array<bool, 256> kMarks = [] {
-  std::array<bool, 256> marks{};
-  for (const unsigned char mark : {'"', '\'', ':'}) marks[mark] = true;
-  return marks;
-}();
-
-bool HasMarks(std::string_view code) {
-  for (const char c : code) {
-    if (kMarks[static_cast<unsigned char>(c)]) return true;
-  }
-  return false;
-}
+/// A line without these has no literal, no comment and no second statement.
+bool HasMarks(std::string_view code) { return ContainsOneOf<'"', '\'', ':'>(code); }
 
 std::size_t FindQuoteOrApostrophe(std::string_view code) {
   const auto quote = code.find('"');

@@ -1,0 +1,56 @@
+// Questions asked of every line of a module, answered eight bytes at a time.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace brimwork {
+namespace byte_words {
+
+inline constexpr std::uint64_t kOnes = 0x0101010101010101;
+inline constexpr std::uint64_t kHighBits = 0x8080808080808080;
+
+constexpr std::uint64_t Repeated(char c) { return kOnes * static_cast<unsigned char>(c); }
+
+/// Not zero when a byte of word is zero.
+constexpr std::uint64_t HasZeroByte(std::uint64_t word) {
+  return (word - kOnes) & ~word & kHighBits;
+}
+
+/// True when isMarked(word) is not zero for some eight bytes of text. A text shorter than that is
+/// filled up with blanks, which no question is about.
+template <class IsMarked>
+bool AnyWord(std::string_view text, IsMarked isMarked) {
+  std::uint64_t word = Repeated(' ');
+  if (text.size() < sizeof word) {
+    std::memcpy(&word, text.data(), text.size());
+    return isMarked(word) != 0;
+  }
+  for (std::size_t at = 0; at + sizeof word <= text.size(); at += sizeof word) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if (isMarked(word) != 0) return true;
+  }
+  std::memcpy(&word, text.data() + text.size() - sizeof word, sizeof word);
+  return isMarked(word) != 0;
+}
+
+}  // namespace byte_words
+
+/// Whether text holds one of the characters.
+template <char... sought>
+bool ContainsOneOf(std::string_view text) {
+  return byte_words::AnyWord(text, [](std::uint64_t word) {
+    return (byte_words::HasZeroByte(word ^ byte_words::Repeated(sought)) | ...);
+  });
+}
+
+/// Whether text holds a line feed or a character beyond ASCII.
+inline bool HoldsLineFeedOrNonAscii(std::string_view text) {
+  return byte_words::AnyWord(text, [](std::uint64_t word) {
+    return byte_words::HasZeroByte(word ^ byte_words::Repeated('\n')) |
+           (word & byte_words::kHighBits);
+  });
+}
+
+}  // namespace brimwork
