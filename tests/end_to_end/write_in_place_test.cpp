@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -38,6 +39,15 @@ TEST_F(WriteInPlace, KeepsThePermissions) {
     EXPECT_EQ(StatusOf(place / "a.bas").st_mode & 07777u, mode);
     EXPECT_EQ(place.Read("a.bas"), kIndented);
   }
+}
+
+TEST_F(WriteInPlace, KeepsTheOwner) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root may give a file to another user";
+  place.Write("a.bas", kMessy);
+  ASSERT_EQ(chown((place / "a.bas").c_str(), 1234, 2345), 0);
+  WriteIndented();
+  EXPECT_EQ(StatusOf(place / "a.bas").st_uid, 1234u);
+  EXPECT_EQ(StatusOf(place / "a.bas").st_gid, 2345u);
 }
 
 TEST_F(WriteInPlace, DoesNotTouchAFileThatStaysAsItIs) {
