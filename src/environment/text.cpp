@@ -1,11 +1,13 @@
 #include "environment/text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
 
 #include "environment/run_time_error.h"
+#include "environment/utf8.h"
 
 namespace brimwork {
 namespace {
@@ -51,20 +53,6 @@ bool IsDecimalNumber(std::string_view text) {
   return at == text.size();
 }
 
-/// The code point at offset, which moves behind it; a byte that is no UTF-8 stands for itself.
-char32_t NextCodePoint(std::string_view text, std::size_t& offset) {
-  const auto lead = static_cast<unsigned char>(text[offset++]);
-  const int more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
-  char32_t point = more == 3   ? lead & 0x07
-                   : more == 2 ? lead & 0x0F
-                   : more == 1 ? lead & 0x1F
-                               : lead;
-  for (int i = 0; i < more && offset < text.size() && IsContinuationByte(text[offset]); ++i) {
-    point = point << 6 | (static_cast<unsigned char>(text[offset++]) & 0x3F);
-  }
-  return point;
-}
-
 char32_t FoldCodePoint(char32_t c) {
   if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
   if (c >= 0x100 && c <= 0x17F && c != 0x130 && c != 0x131 && c != 0x138 && c != 0x149) {
@@ -79,35 +67,20 @@ char32_t FoldCodePoint(char32_t c) {
   return c;
 }
 
-void AppendUtf8(std::string& out, char32_t c) {
-  if (c < 0x80) {
-    out += static_cast<char>(c);
-  } else if (c < 0x800) {
-    out += static_cast<char>(0xC0 | c >> 6);
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    out += static_cast<char>(0xE0 | c >> 12);
-    out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    out += static_cast<char>(0xF0 | c >> 18);
-    out += static_cast<char>(0x80 | (c >> 12 & 0x3F));
-    out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 }  // namespace
 
 std::string FoldName(std::string_view name) {
   std::string folded;
   folded.reserve(name.size());
-  for (std::size_t at = 0; at < name.size();)
-    if (static_cast<unsigned char>(name[at]) < 0x80) {
-      folded += ToLowerAscii(name[at++]);
+  while (!name.empty()) {
+    const std::size_t size = Utf8Size(name);
+    if (size > 1) {
+      AppendUtf8(folded, FoldCodePoint(Utf8Character(name)));
     } else {
-      AppendUtf8(folded, FoldCodePoint(NextCodePoint(name, at)));
+      folded += ToLowerAscii(name[0]);
     }
+    name.remove_prefix(std::max<std::size_t>(size, 1));
+  }
   return folded;
 }
 

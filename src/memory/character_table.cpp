@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "memory/utf8.h"
+#include "environment/utf8.h"
 
 namespace brimwork {
 namespace {

@@ -8,8 +8,8 @@
 #include "environment/byte_words.h"
 #include "environment/run_time_error.h"
 #include "environment/text.h"
+#include "environment/utf8.h"
 #include "memory/huge_pages.h"
-#include "memory/utf8.h"
 
 namespace brimwork {
 namespace {

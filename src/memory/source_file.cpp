@@ -2,10 +2,10 @@
 
 #include <filesystem>
 
+#include "environment/utf8.h"
 #include "memory/source_composer.h"
 #include "memory/source_error.h"
 #include "memory/source_text.h"
-#include "memory/utf8.h"
 
 namespace brimwork {
 

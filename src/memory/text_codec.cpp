@@ -4,9 +4,9 @@
 #include <cstdio>
 
 #include "environment/text.h"
+#include "environment/utf8.h"
 #include "memory/character_table.h"
 #include "memory/encoding_converter.h"
-#include "memory/utf8.h"
 
 namespace brimwork {
 namespace {

@@ -1,4 +1,4 @@
-#include "memory/utf8.h"
+#include "environment/utf8.h"
 
 #include <bit>
 #include <cstdint>
