@@ -161,7 +161,7 @@ void RunSettings(const CLI::App& settings, const ParsedLine& line, Console& cons
   if (settings.got_subcommand("list")) ListSettings(console);
   if (settings.got_subcommand("path")) PrintSettingsPath(console);
   if (settings.got_subcommand("get")) PrintSetting(console, line.settingKey);
-  if (settings.got_subcommand("set")) StoreSetting(console, line.settingKey, line.settingValue);
+  if (settings.got_subcommand("set")) StoreSetting(line.settingKey, line.settingValue);
 }
 
 std::string CaptionAskedFor(const std::string& command, const ParsedLine& line) {

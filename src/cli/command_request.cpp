@@ -74,7 +74,8 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
                      " works on the whole module: leave out --line and --procedure");
   }
   if (!place.IsGiven() && !onModule && NeedsPlace(caption)) {
-    throw UsageError(Quoted(caption) + " works at one place: give --line N or --procedure NAME");
+    throw UsageError(Quoted(caption) + " works at one place: give --line N" +
+                     (caption == kTimeStamp ? "" : " or --procedure NAME"));
   }
   const PlaceRequest where = NeedsPlace(caption) ? place : PlaceRequest{};
   return {std::string(caption), where, !place.IsGiven() && onModule};

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "memory/disk_file.h"
+#include "memory/source_error.h"
 
 namespace brimwork {
 namespace {
@@ -14,6 +15,14 @@ constexpr std::string_view kEraseLine = "\r\x1b[K";
 bool WantsColors(ColorChoice choice, bool isTerminal) {
   if (choice != ColorChoice::kAuto) return choice == ColorChoice::kAlways;
   return isTerminal && std::getenv("NO_COLOR") == nullptr;
+}
+
+/// There is nobody left to tell when standard error cannot be written; the exit code still does.
+void WriteToUser(std::string_view text) {
+  try {
+    WriteAll(STDERR_FILENO, text, "standard error");
+  } catch (const SourceError&) {
+  }
 }
 
 }  // namespace
@@ -45,7 +54,8 @@ void Console::Detail(std::string_view line) {
 void Console::Progress(std::string_view line) {
   if (!showsProgress_) return;
   const std::lock_guard lock(mutex_);
-  WriteAll(STDERR_FILENO, std::string(kEraseLine) + std::string(line), "standard error");
+  if (line.empty() && !progressLineStands_) return;
+  WriteToUser(std::string(kEraseLine) + std::string(line));
   progressLineStands_ = !line.empty();
 }
 
@@ -53,7 +63,7 @@ void Console::WriteErrorLine(std::string_view line) {
   const std::lock_guard lock(mutex_);
   std::string text = progressLineStands_ ? std::string(kEraseLine) : std::string();
   progressLineStands_ = false;
-  WriteAll(STDERR_FILENO, text.append(line).append("\n"), "standard error");
+  WriteToUser(text.append(line).append("\n"));
 }
 
 }  // namespace brimwork

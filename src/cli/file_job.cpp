@@ -37,6 +37,7 @@ class FileJob {
   void Run(FileReport& report, const std::function<void(const frmInfo&)>& showProgress) {
     session_.OnProgress(showProgress);
     report.lacksProcedure = session_.Run(options_.command) == 0;
+    if (report.lacksProcedure) return;
     const LinesAsRead before(file_);
     report.wouldChange = !IsAsRead(before, LinesNow(session_.Text()));
     if (!Check(before, report)) return;

@@ -19,16 +19,18 @@ bool HasExtension(const fs::path& path, std::string_view extension) {
   return EqualNames(path.extension().string(), extension);
 }
 
-std::function<std::string()> NameOfProjectAround(const std::string& sourcePath) {
-  return [sourcePath] {
-    const std::string name = sourcePath.empty() ? "" : ProjectNameFor(sourcePath);
+std::function<std::string()> NameOfProjectAround(const std::string& sourcePath,
+                                                 const std::string& encoding) {
+  return [sourcePath, encoding] {
+    const std::string name = sourcePath.empty() ? "" : ProjectNameFor(sourcePath, encoding);
     return name.empty() ? std::string(kUnnamedProject) : name;
   };
 }
 
 class Collector {
  public:
-  explicit Collector(std::string stdinFileName) : stdinFileName_(std::move(stdinFileName)) {}
+  Collector(std::string stdinFileName, std::string encoding)
+      : stdinFileName_(std::move(stdinFileName)), encoding_(std::move(encoding)) {}
 
   /// What goes wrong with one path is an error of its own and leaves the others alone.
   void Add(const std::string& path) {
@@ -48,7 +50,7 @@ class Collector {
   void AddPath(const std::string& path) {
     std::error_code ignored;
     if (path == kStandardInputPath) {
-      AddFile(path, NameOfProjectAround(stdinFileName_));
+      AddFile(path, NameOfProjectAround(stdinFileName_, encoding_));
     } else if (fs::is_directory(path, ignored)) {
       AddFolder(path);
     } else if (HasExtension(path, ".vbp")) {
@@ -56,7 +58,7 @@ class Collector {
     } else if (HasExtension(path, ".vbg")) {
       AddGroup(path);
     } else {
-      AddFile(path, NameOfProjectAround(path));
+      AddFile(path, NameOfProjectAround(path, encoding_));
     }
   }
 
@@ -64,13 +66,13 @@ class Collector {
     fromList_ = true;
     const auto found = FindSourceFiles(
         path, [this](const SourceError& error) { inputs_.errors.push_back(error.what()); });
-    for (const std::string& file : found) AddFile(file, NameOfProjectAround(file));
+    for (const std::string& file : found) AddFile(file, NameOfProjectAround(file, encoding_));
     if (found.empty()) inputs_.notes.push_back(path + ": holds no Visual Basic source files");
   }
 
   void AddProject(const std::string& path) {
     fromList_ = true;
-    const Project project = ReadProject(path);
+    const Project project = ReadProject(path, encoding_);
     for (const ListedFile& module : project.modules) {
       if (!IsUsable(path, module)) continue;
       AddFile(module.path, [name = project.name] { return name; });
@@ -79,7 +81,8 @@ class Collector {
 
   void AddGroup(const std::string& path) {
     fromList_ = true;
-    for (const ListedFile& project : ReadProjectGroup(path)) {
+    if (!IsNew(path)) return;  // a group may name itself
+    for (const ListedFile& project : ReadProjectGroup(path, encoding_)) {
       if (IsUsable(path, project)) Add(project.path);
     }
   }
@@ -97,13 +100,19 @@ class Collector {
   }
 
   void AddFile(const std::string& path, std::function<std::string()> projectName) {
-    std::error_code unknown;
-    const fs::path canonical = fs::weakly_canonical(path, unknown);
-    if (!seen_.insert(unknown ? path : canonical.string()).second) return;
+    if (!IsNew(path)) return;
     inputs_.files.push_back({path, std::move(projectName)});
   }
 
+  /// True the first time that a file is come upon, by whatever path.
+  bool IsNew(const std::string& path) {
+    std::error_code unknown;
+    const fs::path canonical = fs::weakly_canonical(path, unknown);
+    return seen_.insert(unknown ? path : canonical.string()).second;
+  }
+
   std::string stdinFileName_;
+  std::string encoding_;
   Inputs inputs_;
   std::set<std::string> seen_;
   bool fromList_ = false;
@@ -111,8 +120,9 @@ class Collector {
 
 }  // namespace
 
-Inputs CollectInputs(const std::vector<std::string>& paths, const std::string& stdinFileName) {
-  Collector collector(stdinFileName);
+Inputs CollectInputs(const std::vector<std::string>& paths, const std::string& stdinFileName,
+                     const std::string& encoding) {
+  Collector collector(stdinFileName, encoding);
   for (const std::string& path : paths) collector.Add(path);
   return collector.Finish(paths.size() == 1);
 }

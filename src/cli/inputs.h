@@ -24,6 +24,8 @@ struct Inputs {
 };
 
 /// stdinFileName: the path that standard input stands for, to find its project; may be "".
-Inputs CollectInputs(const std::vector<std::string>& paths, const std::string& stdinFileName);
+/// encoding: of project and group files without a byte-order mark.
+Inputs CollectInputs(const std::vector<std::string>& paths, const std::string& stdinFileName,
+                     const std::string& encoding = "WINDOWS-1252");
 
 }  // namespace brimwork

@@ -13,6 +13,7 @@
 #include "cli/app.h"
 #include "cli/file_job.h"
 #include "cli/inputs.h"
+#include "cli/source_input.h"
 
 namespace brimwork {
 namespace {
@@ -105,7 +106,7 @@ class FileQueue {
 
   FileReport RunOn(const InputFile& file) {
     FileReport report = RunOnFile(options_, file, console_, [&](const frmInfo& window) {
-      progress_.Show(file.path, window);
+      progress_.Show(ShownPath(file.path, options_), window);
     });
     progress_.FileDone();
     return report;
@@ -171,7 +172,7 @@ int ExitCodeOf(const RunOptions& options, const Totals& totals) {
 
 int RunFiles(const RunOptions& options, Console& console) {
   CheckModes(options);
-  const Inputs inputs = CollectInputs(options.paths, options.stdinFileName);
+  const Inputs inputs = CollectInputs(options.paths, options.stdinFileName, options.encoding);
   for (const std::string& note : inputs.notes) console.Note(note);
   for (const std::string& error : inputs.errors) console.Error(error);
   CheckOneResult(options, inputs);
@@ -185,7 +186,10 @@ int RunFiles(const RunOptions& options, Console& console) {
   });
   const bool nowhereFound = totals.files > 0 && totals.withoutProcedure == totals.files;
   if (nowhereFound) {
-    console.Error("no file has a procedure \"" + *options.command.place.procedure + '"');
+    const std::string where = totals.files == 1
+                                  ? ShownPath(inputs.files[0].path, options) + ": there is no"
+                                  : std::string("no file has a");
+    console.Error(where + " procedure \"" + *options.command.place.procedure + '"');
     ++totals.failed;
   }
   TellTotals(options, totals, console);

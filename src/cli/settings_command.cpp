@@ -54,11 +54,9 @@ void PrintSetting(Console& console, const std::string& key) {
   console.Out(GetCommandSetting(user.environment, CheckedSettingKey(key)) + "\n");
 }
 
-void StoreSetting(Console& console, const std::string& key, const std::string& value) {
+void StoreSetting(const std::string& key, const std::string& value) {
   UserSettings user;
-  const std::string checked = CheckedSettingKey(key);
-  SaveSetting(user.environment, checked, value);
-  console.Detail(checked + " is stored in " + user.area.Path().string());
+  SaveSetting(user.environment, CheckedSettingKey(key), value);
 }
 
 void PrintSettingsPath(Console& console) { console.Out(DefaultSettingsPath().string() + "\n"); }

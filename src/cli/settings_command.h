@@ -11,7 +11,7 @@ namespace brimwork {
 void ListSettings(Console& console);
 /// The stored value of a key, or what the commands take when nothing is stored.
 void PrintSetting(Console& console, const std::string& key);
-void StoreSetting(Console& console, const std::string& key, const std::string& value);
+void StoreSetting(const std::string& key, const std::string& value);
 void PrintSettingsPath(Console& console);
 
 /// The key as the table spells it. Throws UsageError, with the nearest key, for an unknown one.

@@ -71,7 +71,9 @@ ResolvedPath ResolveListedPath(const fs::path& folder, std::string_view listed) 
   fs::path found = isAbsolute ? fs::path("/") : folder;
   fs::path spelled = found;
   bool exists = true;
-  for (const std::string& part : PartsOf(listed)) {
+  const std::vector<std::string> parts = PartsOf(listed);
+  if (parts.empty()) return {{}, isAbsolute};  // names no file
+  for (const std::string& part : parts) {
     if (part == "..") {
       found = spelled = Above(spelled);
       continue;
@@ -80,7 +82,7 @@ ResolvedPath ResolveListedPath(const fs::path& folder, std::string_view listed) 
     exists = exists && !found.empty();
     spelled = exists ? found : spelled / part;
   }
-  return {exists && !listed.empty() ? found : fs::path(), isAbsolute || !IsBelow(spelled, folder)};
+  return {exists ? found : fs::path(), isAbsolute || !IsBelow(spelled, folder)};
 }
 
 std::string_view ListedFileName(std::string_view listed) {
