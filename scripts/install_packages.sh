@@ -5,7 +5,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev)
-test=(libgtest-dev libgmock-dev)
+test=(libgtest-dev libgmock-dev patch git locales)
 bench=(libbenchmark-dev time)
 
 Fail() {
