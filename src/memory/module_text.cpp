@@ -121,6 +121,13 @@ void ModuleText::MoveGap(std::size_t to, std::size_t atLeast) {
 }
 
 void ModuleText::SetText(TextLine& slot, std::string_view text) {
+  if (IsOwn(slot) && text.size() <= slot.size) {
+    // Rewriting a line in its own place costs no fresh memory.
+    std::memcpy(const_cast<char*>(slot.data), text.data(), text.size());
+    liveBytes_ -= slot.size - text.size();
+    slot.size = static_cast<std::uint32_t>(text.size());
+    return;
+  }
   const char* const stored = Store(text);
   if (IsOwn(slot)) liveBytes_ -= slot.size;
   slot.data = stored;

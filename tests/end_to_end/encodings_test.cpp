@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "end_to_end/workplace.h"
+#include "support/program.h"
 
 namespace brimwork {
 namespace {
@@ -111,6 +112,7 @@ TEST_F(Encodings, ADiffHasTheFilesOwnBytes) {
 }
 
 TEST_F(Encodings, ADiffOnATerminalIsReadable) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   place.Write("m.bas", "Sub A()\ns = \"\xFC\"\nEnd Sub\n");
   ProgramCall call = place.CallOf({"indent", "--diff", "--color", "never", "m.bas"});
   call.outIsTerminal = true;

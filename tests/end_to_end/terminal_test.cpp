@@ -4,6 +4,7 @@
 
 #include "end_to_end/sources.h"
 #include "end_to_end/workplace.h"
+#include "support/program.h"
 
 namespace brimwork {
 namespace {
@@ -33,18 +34,21 @@ class Terminal : public testing::Test {
 };
 
 TEST_F(Terminal, GetsAColouredDiff) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   const std::string diff = DiffOnTerminal();
   EXPECT_THAT(diff, HasSubstr("\x1b[31m-Work"));
   EXPECT_THAT(diff, HasSubstr("\x1b[32m+        Work"));
 }
 
 TEST_F(Terminal, GetsNoColoursWithNoColor) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   place.SetVariable("NO_COLOR", "1");
   EXPECT_THAT(DiffOnTerminal(), Not(HasSubstr(kEscape)));
   EXPECT_THAT(DiffOnTerminal({"--color", "always"}), HasSubstr(kEscape));
 }
 
 TEST_F(Terminal, GetsNoColoursWhenTheyAreTurnedOff) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   EXPECT_THAT(DiffOnTerminal({"--color", "never"}), Not(HasSubstr(kEscape)));
   EXPECT_THAT(DiffOnTerminal({"--color", "auto"}), HasSubstr(kEscape));
 }
@@ -76,16 +80,19 @@ ProgramResult RunOnSlowInput(const Workplace& place, const std::string& options)
 }
 
 TEST_F(Terminal, ShowsTheProgressOfALongRunAndWipesItAway) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   const std::string shown = RunOnSlowInput(place, "").terminal;
   EXPECT_THAT(shown, testing::ContainsRegex("[0-9]%"));
   EXPECT_THAT(shown, testing::EndsWith("\r\x1b[K"));
 }
 
 TEST_F(Terminal, ShowsNoProgressWithQuiet) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   EXPECT_EQ(RunOnSlowInput(place, "--quiet").terminal, "");
 }
 
 TEST_F(Terminal, ShowsNoProgressOfAShortRun) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   ProgramCall call = place.CallOf({"indent", "--check", "a.bas"});
   call.errorIsTerminal = true;
   EXPECT_THAT(RunProgram(call).terminal, Not(HasSubstr("%")));

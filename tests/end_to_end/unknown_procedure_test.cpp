@@ -4,6 +4,7 @@
 
 #include "end_to_end/sources.h"
 #include "end_to_end/workplace.h"
+#include "support/program.h"
 
 namespace brimwork {
 namespace {
@@ -29,6 +30,7 @@ TEST(TimeStampWithoutALine, AsksForWhatItTakes) {
 }
 
 TEST(ShortRunOnATerminal, WritesNothingAtAll) {
+  if (!HasPseudoTerminal()) GTEST_SKIP() << "this system opens no pseudo-terminal";
   Workplace place;
   place.Write("a.bas", kMessy);
   ProgramCall call = place.CallOf({"indent", "--check", "a.bas"});

@@ -82,6 +82,14 @@ std::vector<std::string> Assignments(const std::map<std::string, std::string>& v
 
 }  // namespace
 
+bool HasPseudoTerminal() {
+  int ends[2];
+  if (openpty(&ends[0], &ends[1], nullptr, nullptr, nullptr) != 0) return false;
+  close(ends[0]);
+  close(ends[1]);
+  return true;
+}
+
 RunningProgram::RunningProgram(const ProgramCall& call) {
   int terminalEnd = -1;
   if (call.outIsTerminal || call.errorIsTerminal) {

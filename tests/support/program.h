@@ -29,6 +29,9 @@ struct ProgramResult {
   std::string terminal;  // what went to the terminal, its line ends as CR LF
 };
 
+/// False where the system opens no pseudo-terminal, as in a chroot without /dev/pts.
+bool HasPseudoTerminal();
+
 /// A program that runs while the test goes on. Wait must be called once. Throws std::runtime_error
 /// when the system refuses; a program that cannot be started ends with 127.
 class RunningProgram {
