@@ -21,7 +21,7 @@ ModuleSession::ModuleSession(const RunOptions& options, SourceFile& file,
       clock_(options.now, options.dateLocale),
       pane_(memory_.Open(file.ModuleName(), file.TakeText())),
       module_(std::static_pointer_cast<MemoryCodeModule>(pane_->Module())),
-      addIn_(memory_.Parts(settings_, clock_)) {
+      addIn_(memory_.Parts({.settingsArea = &settings_, .clock = &clock_})) {
   memory_.vbe.SetProject(std::make_shared<MemoryProject>(std::move(projectName)));
   if (options.tabWidth) {
     memory_.registry.SetDword(kHiveCurrentUser, kEditorOptions, "TabWidth",

@@ -19,9 +19,7 @@ struct UserSettings {
   JsonSettingsArea area;
   XdgShellFolders folders;
   MemoryEnvironment memory;
-  Environment environment{memory.vbe,     memory.screen,      memory.clipboard, memory.keyboard,
-                          memory.dialogs, memory.messageLoop, memory.registry,  area,
-                          folders,        memory.clock};
+  Environment environment = memory.Parts({.settingsArea = &area, .shellFolders = &folders});
 };
 
 /// A value on one line, its line ends written as \n.

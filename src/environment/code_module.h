@@ -48,7 +48,8 @@ class CodeModule {
   /// reading wholly behind the end gives "". Line 0 raises error 9.
   virtual std::string Lines(int startLine, int count) = 0;
 
-  /// Lines(line, 1) into a string of the caller's: who reads line after line need not allocate each.
+  /// Lines(line, 1) into a string of the caller's: who reads line after line need not allocate
+  /// each.
   virtual void ReadLine(int line, std::string& text) { text = Lines(line, 1); }
 
   /// Inserts text before line; CR LF in it makes several lines, n line ends n + 1 lines. Behind the

@@ -8,7 +8,8 @@
 
 namespace brimwork {
 
-using WindowHandle = std::uintptr_t;  // 0 is no window
+using WindowHandle = std::uintptr_t;    // 0 is no window
+using InstanceHandle = std::uintptr_t;  // of a loaded program or library
 
 namespace mouse_pointer {
 inline constexpr int kDefault = 0;
@@ -58,6 +59,21 @@ struct BrowseFolderRequest {
   std::uint32_t flags = 0;
 };
 
+/// The record that a save dialog works on.
+struct SaveFileRequest {
+  std::uint32_t structSize = 0;  // in bytes
+  WindowHandle owner = 0;
+  InstanceHandle instance = 0;
+  std::string filter;          // description, NUL, pattern; "" for none
+  int filterIndex = 0;         // 0: no initial filter
+  std::string file;            // the buffer that takes the path, filled up with NULs
+  std::uint32_t fileSize = 0;  // of the buffer, in characters
+  std::string initialFolder;
+  std::string title;
+  std::uint32_t flags = 0;       // OFN_ flags
+  std::string defaultExtension;  // without a dot
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -67,6 +83,18 @@ class Dialogs {
 
   /// Lets the user pick a folder. Returns its path, "" when the user cancelled.
   virtual std::string BrowseForFolder(const BrowseFolderRequest& request) = 0;
+
+  /// Lets the user say where to save. True with the path at the start of request.file, ended by a
+  /// NUL; false when the user cancelled or the dialog could not be shown.
+  virtual bool GetSaveFileName(SaveFileRequest& request) = 0;
+};
+
+/// The add-in's own program file.
+class App {
+ public:
+  virtual ~App() = default;
+  virtual std::string Path() = 0;  // its folder
+  virtual InstanceHandle Instance() = 0;
 };
 
 class MessageLoop {

@@ -3,8 +3,12 @@
 #pragma once
 
 #include "environment/desktop.h"
+#include "environment/native_windows.h"
 #include "environment/registry.h"
+#include "environment/rich_text_box.h"
+#include "environment/text_files.h"
 #include "environment/vbe.h"
+#include "environment/word_processor.h"
 
 namespace brimwork {
 
@@ -19,6 +23,11 @@ struct Environment {
   SettingsArea& settingsArea;
   ShellFolders& shellFolders;
   Clock& clock;
+  App& app;
+  NativeWindows& nativeWindows;
+  RichTextBoxes& richTextBoxes;
+  TextFiles& textFiles;
+  WordProcessors& wordProcessors;
 };
 
 }  // namespace brimwork

@@ -4,8 +4,11 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "environment/code_module.h"
+#include "environment/window.h"
 
 namespace brimwork {
 
@@ -14,6 +17,9 @@ class CodePane {
   virtual ~CodePane() = default;
 
   virtual std::shared_ptr<CodeModule> Module() = 0;
+
+  /// The code window that shows the pane.
+  virtual std::shared_ptr<Window> ContainingWindow() = 0;
 
   virtual Selection GetSelection() = 0;
 
@@ -27,12 +33,6 @@ class VBProject {
   virtual std::string Name() = 0;
 };
 
-class Window {
- public:
-  virtual ~Window() = default;
-  virtual std::string Caption() = 0;
-};
-
 class VBE {
  public:
   virtual ~VBE() = default;
@@ -41,6 +41,17 @@ class VBE {
   virtual std::shared_ptr<CodePane> ActiveCodePane() = 0;
   virtual std::shared_ptr<VBProject> ActiveVBProject() = 0;
   virtual std::shared_ptr<Window> MainWindow() = 0;
+
+  /// Null while the main window has the focus.
+  virtual std::shared_ptr<Window> ActiveWindow() = 0;
+
+  /// All windows, in the order of the environment's collection.
+  virtual std::vector<std::shared_ptr<Window>> Windows() = 0;
+
+  /// The window of Windows() with exactly this caption, null when there is none.
+  virtual std::shared_ptr<Window> WindowOfCaption(std::string_view caption) = 0;
+
+  virtual std::vector<std::shared_ptr<CommandBar>> CommandBars() = 0;
 };
 
 }  // namespace brimwork

@@ -14,6 +14,7 @@ class MemoryCodePane : public CodePane, public KeyTarget {
   explicit MemoryCodePane(std::shared_ptr<MemoryCodeModule> module) : module_(std::move(module)) {}
 
   std::shared_ptr<CodeModule> Module() override { return module_; }
+  std::shared_ptr<Window> ContainingWindow() override { return window_.lock(); }
   Selection GetSelection() override { return selection_; }
   void SetSelection(const Selection& selection) override;
 
@@ -25,8 +26,11 @@ class MemoryCodePane : public CodePane, public KeyTarget {
 
   std::string SelectedText() const;
 
+  void SetContainingWindow(const std::shared_ptr<Window>& window) { window_ = window; }
+
  private:
   std::shared_ptr<MemoryCodeModule> module_;
+  std::weak_ptr<Window> window_;  // the window holds the pane
   Selection selection_;
 };
 

@@ -1,5 +1,5 @@
-// Message boxes and the folder browser as plain data: what was shown is recorded, and the answers
-// are given beforehand.
+// Message boxes, the folder browser and the save dialog as plain data: what was shown is recorded,
+// and the answers are given beforehand.
 #pragma once
 
 #include <deque>
@@ -32,14 +32,26 @@ class MemoryDialogs : public Dialogs {
     return Next(folders_, std::string());
   }
 
+  bool GetSaveFileName(SaveFileRequest& request) override {
+    saveRequests_.push_back(request);
+    const std::string path = Next(savePaths_, std::string());
+    if (path.empty() || path.size() >= request.file.size()) return false;
+    request.file.replace(0, path.size() + 1, path + '\0');
+    return true;
+  }
+
   /// The button that answers the next message box still without an answer; OK when none is given.
   void AnswerMessage(int button) { answers_.push_back(button); }
 
   /// The folder picked in the next browser still without an answer; cancelled when none is given.
   void PickFolder(std::string path) { folders_.push_back(std::move(path)); }
 
+  /// The path chosen in the next save dialog still without an answer; cancelled when none is given.
+  void SaveTo(std::string path) { savePaths_.push_back(std::move(path)); }
+
   const std::vector<ShownMessage>& Messages() const { return messages_; }
   const std::vector<BrowseFolderRequest>& BrowseRequests() const { return browseRequests_; }
+  const std::vector<SaveFileRequest>& SaveRequests() const { return saveRequests_; }
 
  private:
   template <class Answer>
@@ -54,6 +66,8 @@ class MemoryDialogs : public Dialogs {
   std::vector<BrowseFolderRequest> browseRequests_;
   std::deque<int> answers_;
   std::deque<std::string> folders_;
+  std::vector<SaveFileRequest> saveRequests_;
+  std::deque<std::string> savePaths_;
 };
 
 }  // namespace brimwork

@@ -7,6 +7,11 @@ namespace {
 
 constexpr WindowHandle kMainWindowHandle = 1;
 
+template <class Part>
+Part& OneOf(Part* replacement, Part& own) {
+  return replacement != nullptr ? *replacement : own;
+}
+
 }  // namespace
 
 MemoryEnvironment::MemoryEnvironment() {
@@ -16,15 +21,27 @@ MemoryEnvironment::MemoryEnvironment() {
 
 std::shared_ptr<MemoryCodePane> MemoryEnvironment::Open(std::string moduleName, ModuleText text) {
   auto pane = std::make_shared<MemoryCodePane>(
-      std::make_shared<MemoryCodeModule>(std::move(moduleName), std::move(text)));
-  vbe.SetActivePane(pane);
-  keyboard.SetFocus(pane.get());
+      std::make_shared<MemoryCodeModule>(moduleName, std::move(text)));
+  vbe.OpenPane(pane, moduleName + " (Code)");
   return pane;
 }
 
-Environment MemoryEnvironment::Parts(SettingsArea& settings, Clock& dates) {
-  return {vbe,         screen,   clipboard, keyboard,     dialogs,
-          messageLoop, registry, settings,  shellFolders, dates};
+Environment MemoryEnvironment::Parts(const Replacements& others) {
+  return {.vbe = OneOf<VBE>(others.vbe, vbe),
+          .screen = OneOf<Screen>(others.screen, screen),
+          .clipboard = clipboard,
+          .keyboard = OneOf<Keyboard>(others.keyboard, keyboard),
+          .dialogs = OneOf<Dialogs>(others.dialogs, dialogs),
+          .messageLoop = messageLoop,
+          .registry = registry,
+          .settingsArea = OneOf<SettingsArea>(others.settingsArea, settingsArea),
+          .shellFolders = OneOf<ShellFolders>(others.shellFolders, shellFolders),
+          .clock = OneOf<Clock>(others.clock, clock),
+          .app = app,
+          .nativeWindows = nativeWindows,
+          .richTextBoxes = richTextBoxes,
+          .textFiles = textFiles,
+          .wordProcessors = wordProcessors};
 }
 
 }  // namespace brimwork

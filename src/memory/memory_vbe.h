@@ -1,14 +1,17 @@
-// The environment's object model as plain data: one project, a main window, and the code panes that
-// are opened in it.
+// The environment's object model as plain data: one project, its windows and command bars, and the
+// code panes that are opened in it.
 #pragma once
 
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "environment/vbe.h"
 #include "memory/memory_code_pane.h"
+#include "memory/memory_command_bar.h"
+#include "memory/memory_window.h"
 
 namespace brimwork {
 
@@ -22,30 +25,38 @@ class MemoryProject : public VBProject {
   std::function<std::string()> name_;
 };
 
-class MemoryWindow : public Window {
- public:
-  explicit MemoryWindow(std::string caption) : caption_(std::move(caption)) {}
-  std::string Caption() override { return caption_; }
-
- private:
-  std::string caption_;
-};
-
 class MemoryVbe : public VBE {
  public:
   static constexpr const char* kMainWindowCaption = "Visual Basic";
 
+  /// Starts with the main window and the menu bar.
+  explicit MemoryVbe(MemoryKeyboard& keyboard);
+
   std::shared_ptr<CodePane> ActiveCodePane() override { return activePane_; }
   std::shared_ptr<VBProject> ActiveVBProject() override { return project_; }
   std::shared_ptr<Window> MainWindow() override { return mainWindow_; }
+  std::shared_ptr<Window> ActiveWindow() override;
+  std::vector<std::shared_ptr<Window>> Windows() override;
+  std::shared_ptr<Window> WindowOfCaption(std::string_view caption) override;
+  std::vector<std::shared_ptr<CommandBar>> CommandBars() override;
+
+  /// Opens a code window for the pane, which becomes the active one with the focus.
+  void OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::string caption);
 
   void SetActivePane(std::shared_ptr<MemoryCodePane> pane) { activePane_ = std::move(pane); }
   void SetProject(std::shared_ptr<VBProject> project) { project_ = std::move(project); }
+  void AddCommandBar(std::shared_ptr<MemoryCommandBar> bar);
+
+  MemoryWindows windows;
 
  private:
+  void ForgetPaneOf(MemoryWindow& window);
+
+  std::vector<std::shared_ptr<MemoryCodePane>> panes_;  // the latest one last
   std::shared_ptr<MemoryCodePane> activePane_;
   std::shared_ptr<VBProject> project_;
-  std::shared_ptr<Window> mainWindow_ = std::make_shared<MemoryWindow>(kMainWindowCaption);
+  std::shared_ptr<MemoryWindow> mainWindow_;
+  std::vector<std::shared_ptr<MemoryCommandBar>> commandBars_;
 };
 
 }  // namespace brimwork

@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "environment/basic_lines.h"
-#include "environment/resume_next.h"
 #include "environment/text.h"
 #include "settings/setting_keys.h"
+#include "transform/borrowed_clipboard.h"
 #include "transform/code_source.h"
 #include "transform/procedure_bounds.h"
 
@@ -43,7 +43,7 @@ int DeleteBlankLinesAbove(CodeModule& module, int line, int firstLine) {
   return line;
 }
 
-/// Deletes the run of empty lines that starts at line. At the end of the module one of several stays.
+/// Deletes the run of empty lines that starts at line. At the end of the module one of them stays.
 void DeleteEmptyLinesAt(CodeModule& module, int line) {
   while (line <= module.CountOfLines() && Trim(module.Lines(line, 1)).empty()) {
     module.DeleteLines(line, 1);
@@ -87,23 +87,6 @@ void OpenFrame(CodeModule& module, int firstOwnLine, std::string_view separator)
   if (firstOwnLine > 1 && module.Lines(firstOwnLine - 1, 1) == separator) return;
   module.InsertLines(firstOwnLine, separator);
 }
-
-/// Gives the clipboard to a command and its text back to the user afterwards.
-class BorrowedClipboard {
- public:
-  explicit BorrowedClipboard(Clipboard& clipboard)
-      : clipboard_(clipboard), text_(clipboard.GetText()) {}
-  ~BorrowedClipboard() {
-    Insist([&] { clipboard_.Clear(); });
-    if (!text_.empty()) Insist([&] { clipboard_.SetText(text_); });
-  }
-  BorrowedClipboard(const BorrowedClipboard&) = delete;
-  BorrowedClipboard& operator=(const BorrowedClipboard&) = delete;
-
- private:
-  Clipboard& clipboard_;
-  std::string text_;
-};
 
 }  // namespace
 

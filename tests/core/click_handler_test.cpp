@@ -58,9 +58,7 @@ struct ClickHandler : testing::Test {
   MemoryEnvironment memory;
   NotingScreen screen;
   WatchingKeyboard keyboard{screen};
-  AddIn addIn{Environment{memory.vbe, screen, memory.clipboard, keyboard, memory.dialogs,
-                          memory.messageLoop, memory.registry, memory.settingsArea,
-                          memory.shellFolders, memory.clock}};
+  AddIn addIn{memory.Parts({.screen = &screen, .keyboard = &keyboard})};
 };
 
 TEST_F(ClickHandler, ShowsTheHourglassWhileTheCommandRunsAndThenTheDefaultPointer) {

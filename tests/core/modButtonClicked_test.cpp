@@ -186,10 +186,7 @@ TEST(ButtonClicked, TheMainWindowIsFrozenWhileOneProcedureIsCommentedOrNumbered)
     memory.Open("Module1", ModuleText::FromText("Sub A()\r\nx = 1\r\nEnd Sub\r\n"));
     FreezeNotingScreen screen;
     screen.AddWindow(MemoryVbe::kMainWindowCaption, 5);
-    const Environment parts = memory.Parts();
-    AddIn addIn(Environment{parts.vbe, screen, parts.clipboard, parts.keyboard, parts.dialogs,
-                            parts.messageLoop, parts.registry, parts.settingsArea,
-                            parts.shellFolders, parts.clock});
+    AddIn addIn(memory.Parts({.screen = &screen}));
     ButtonClicked(addIn, caption, false);
     EXPECT_THAT(screen.frozen, ElementsAre(5u, 0u)) << caption;
   }

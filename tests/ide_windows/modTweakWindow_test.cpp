@@ -91,8 +91,9 @@ TEST_F(TweakWindow, TheGuardDoesNothingWithoutAMainWindow) {
   EXPECT_EQ(screen.LockedWindow(), 0u);
 }
 
-class FailingWindow : public Window {
+class FailingWindow : public CaptionedWindow {
  public:
+  FailingWindow() : CaptionedWindow("") {}
   std::string Caption() override {
     throw RunTimeError(error_number::kInvalidProcedureCall, "no caption");
   }

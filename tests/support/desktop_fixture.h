@@ -4,24 +4,22 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "environment/environment.h"
-#include "memory/fixed_clock.h"
-#include "memory/memory_clipboard.h"
-#include "memory/memory_dialogs.h"
-#include "memory/memory_keyboard.h"
-#include "memory/memory_message_loop.h"
-#include "memory/memory_registry.h"
-#include "memory/memory_screen.h"
-#include "memory/memory_settings_area.h"
-#include "memory/memory_shell_folders.h"
+#include "memory/memory_environment.h"
 
 namespace brimwork {
 
 class CaptionedWindow : public Window {
  public:
   explicit CaptionedWindow(std::string caption) : caption_(std::move(caption)) {}
+  std::uintptr_t Identity() override { return reinterpret_cast<std::uintptr_t>(this); }
   std::string Caption() override { return caption_; }
+  int Type() override { return window_type::kMainWindow; }
+  bool Visible() override { return true; }
+  void SetVisible(bool /*visible*/) override {}
+  void SetFocus() override {}
+  void Close() override {}
 
  private:
   std::string caption_;
@@ -33,26 +31,20 @@ class EmptyVbe : public VBE {
   std::shared_ptr<CodePane> ActiveCodePane() override { return nullptr; }
   std::shared_ptr<VBProject> ActiveVBProject() override { return nullptr; }
   std::shared_ptr<Window> MainWindow() override { return mainWindow; }
+  std::shared_ptr<Window> ActiveWindow() override { return nullptr; }
+  std::vector<std::shared_ptr<Window>> Windows() override { return {}; }
+  std::shared_ptr<Window> WindowOfCaption(std::string_view /*caption*/) override { return nullptr; }
+  std::vector<std::shared_ptr<CommandBar>> CommandBars() override { return {}; }
 
   std::shared_ptr<Window> mainWindow;
 };
 
-struct DesktopFixture {
+struct DesktopFixture : MemoryEnvironment {
   EmptyVbe vbe;
-  MemoryScreen screen;
-  MemoryClipboard clipboard;
-  MemoryKeyboard keyboard{clipboard};
-  MemoryDialogs dialogs;
-  MemoryMessageLoop messageLoop;
-  MemoryRegistry registry;
-  MemorySettingsArea settingsArea;
-  MemoryShellFolders shellFolders;
-  FixedClock clock{"11/21/2026", "11/21/2026 10:20:30 AM"};
 
   /// This fixture's environment, with another dialog or screen where a test brings its own.
   Environment With(Screen& otherScreen, Dialogs& otherDialogs) {
-    return {vbe,         otherScreen, clipboard,    keyboard,     otherDialogs,
-            messageLoop, registry,    settingsArea, shellFolders, clock};
+    return Parts({.vbe = &vbe, .screen = &otherScreen, .dialogs = &otherDialogs});
   }
 
   Environment environment = With(screen, dialogs);

@@ -72,6 +72,10 @@ class FaultyDialogs : public Dialogs {
     return calls_.Through("Dialogs.BrowseForFolder",
                           [&] { return inner_.BrowseForFolder(request); });
   }
+  bool GetSaveFileName(SaveFileRequest& request) override {
+    return calls_.Through("Dialogs.GetSaveFileName",
+                          [&] { return inner_.GetSaveFileName(request); });
+  }
 
  private:
   Dialogs& inner_;

@@ -6,6 +6,8 @@
 
 #include "support/faulty_calls.h"
 #include "support/faulty_desktop.h"
+#include "support/faulty_rich_text_box.h"
+#include "support/faulty_tools.h"
 #include "support/faulty_vbe.h"
 
 namespace brimwork {
@@ -22,7 +24,12 @@ struct FaultyEnvironment::Decorators {
         registry(inner.registry, calls),
         settingsArea(inner.settingsArea, calls),
         shellFolders(inner.shellFolders, calls),
-        clock(inner.clock, calls) {}
+        clock(inner.clock, calls),
+        app(inner.app, calls),
+        nativeWindows(inner.nativeWindows, calls),
+        richTextBoxes(inner.richTextBoxes, calls),
+        textFiles(inner.textFiles, calls),
+        wordProcessors(inner.wordProcessors, calls) {}
 
   FaultyCalls calls;
   FaultyVbe vbe;
@@ -35,6 +42,11 @@ struct FaultyEnvironment::Decorators {
   FaultySettingsArea settingsArea;
   FaultyShellFolders shellFolders;
   FaultyClock clock;
+  FaultyApp app;
+  FaultyNativeWindows nativeWindows;
+  FaultyRichTextBoxes richTextBoxes;
+  FaultyTextFiles textFiles;
+  FaultyWordProcessors wordProcessors;
 };
 
 FaultyEnvironment::FaultyEnvironment(const Environment& inner, Fault fault)
@@ -44,8 +56,21 @@ FaultyEnvironment::~FaultyEnvironment() = default;
 
 Environment FaultyEnvironment::Parts() {
   Decorators& all = *decorators_;
-  return {all.vbe,         all.screen,   all.clipboard,    all.keyboard,     all.dialogs,
-          all.messageLoop, all.registry, all.settingsArea, all.shellFolders, all.clock};
+  return {.vbe = all.vbe,
+          .screen = all.screen,
+          .clipboard = all.clipboard,
+          .keyboard = all.keyboard,
+          .dialogs = all.dialogs,
+          .messageLoop = all.messageLoop,
+          .registry = all.registry,
+          .settingsArea = all.settingsArea,
+          .shellFolders = all.shellFolders,
+          .clock = all.clock,
+          .app = all.app,
+          .nativeWindows = all.nativeWindows,
+          .richTextBoxes = all.richTextBoxes,
+          .textFiles = all.textFiles,
+          .wordProcessors = all.wordProcessors};
 }
 
 const std::vector<std::string_view>& FaultyEnvironment::Operations() const {
@@ -55,8 +80,10 @@ const std::vector<std::string_view>& FaultyEnvironment::Operations() const {
 bool FaultyEnvironment::RanAway() const { return decorators_->calls.RanAway(); }
 
 bool FaultyEnvironment::CanAnswerNothing(std::string_view operation) {
-  constexpr std::array<std::string_view, 4> kObjects = {"VBE.ActiveCodePane", "VBE.ActiveVBProject",
-                                                        "VBE.MainWindow", "CodePane.Module"};
+  constexpr std::array<std::string_view, 8> kObjects = {
+      "VBE.ActiveCodePane",        "VBE.ActiveVBProject",        "VBE.MainWindow",
+      "VBE.ActiveWindow",          "VBE.WindowOfCaption",        "CodePane.Module",
+      "CodePane.ContainingWindow", "WordProcessors.CreateObject"};
   return operation.starts_with("Registry.") ||
          std::find(kObjects.begin(), kObjects.end(), operation) != kObjects.end();
 }

@@ -4,9 +4,11 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "environment/vbe.h"
 #include "support/faulty_calls.h"
+#include "support/faulty_windows.h"
 
 namespace brimwork {
 
@@ -75,6 +77,10 @@ class FaultyCodePane : public CodePane {
       return module ? std::make_shared<FaultyCodeModule>(std::move(module), calls_) : nullptr;
     });
   }
+  std::shared_ptr<Window> ContainingWindow() override {
+    return calls_.ObjectThrough("CodePane.ContainingWindow",
+                                [&] { return MakeFaulty(inner_->ContainingWindow(), calls_); });
+  }
   Selection GetSelection() override {
     return calls_.Through("CodePane.GetSelection", [&] { return inner_->GetSelection(); });
   }
@@ -100,19 +106,6 @@ class FaultyProject : public VBProject {
   FaultyCalls& calls_;
 };
 
-class FaultyWindow : public Window {
- public:
-  FaultyWindow(std::shared_ptr<Window> inner, FaultyCalls& calls)
-      : inner_(std::move(inner)), calls_(calls) {}
-  std::string Caption() override {
-    return calls_.Through("Window.Caption", [&] { return inner_->Caption(); });
-  }
-
- private:
-  std::shared_ptr<Window> inner_;
-  FaultyCalls& calls_;
-};
-
 class FaultyVbe : public VBE {
  public:
   FaultyVbe(VBE& inner, FaultyCalls& calls) : inner_(inner), calls_(calls) {}
@@ -130,9 +123,32 @@ class FaultyVbe : public VBE {
     });
   }
   std::shared_ptr<Window> MainWindow() override {
-    return calls_.ObjectThrough("VBE.MainWindow", [&]() -> std::shared_ptr<Window> {
-      auto window = inner_.MainWindow();
-      return window ? std::make_shared<FaultyWindow>(std::move(window), calls_) : nullptr;
+    return calls_.ObjectThrough("VBE.MainWindow",
+                                [&] { return MakeFaulty(inner_.MainWindow(), calls_); });
+  }
+  std::shared_ptr<Window> ActiveWindow() override {
+    return calls_.ObjectThrough("VBE.ActiveWindow",
+                                [&] { return MakeFaulty(inner_.ActiveWindow(), calls_); });
+  }
+  std::vector<std::shared_ptr<Window>> Windows() override {
+    return calls_.Through("VBE.Windows", [&] {
+      std::vector<std::shared_ptr<Window>> windows;
+      for (auto& window : inner_.Windows())
+        windows.push_back(MakeFaulty(std::move(window), calls_));
+      return windows;
+    });
+  }
+  std::shared_ptr<Window> WindowOfCaption(std::string_view caption) override {
+    return calls_.ObjectThrough(
+        "VBE.WindowOfCaption", [&] { return MakeFaulty(inner_.WindowOfCaption(caption), calls_); });
+  }
+  std::vector<std::shared_ptr<CommandBar>> CommandBars() override {
+    return calls_.Through("VBE.CommandBars", [&] {
+      std::vector<std::shared_ptr<CommandBar>> bars;
+      for (auto& bar : inner_.CommandBars()) {
+        bars.push_back(std::make_shared<FaultyCommandBar>(std::move(bar), calls_));
+      }
+      return bars;
     });
   }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "environment/run_time_error.h"
+#include "support/desktop_fixture.h"
 #include "support/opened_module.h"
 #include "transform/modCleanUp.h"
 #include "transform/modCommentCode.h"
@@ -23,7 +24,7 @@ const ShownMessage kNeedsCodeSource{
     64, "Need Valid Code Source"};
 
 /// No pane can be had, as in an environment that is busy.
-class BusyVbe : public MemoryVbe {
+class BusyVbe : public EmptyVbe {
  public:
   std::shared_ptr<CodePane> ActiveCodePane() override {
     throw RunTimeError(error_number::kInvalidProcedureCall, "busy");
@@ -44,11 +45,7 @@ TEST(CodeSource, IsNothingWithoutAnActivePane) {
 TEST(CodeSource, IsNothingWhenThePaneCannotBeHad) {
   MemoryEnvironment memory;
   BusyVbe busy;
-  Environment parts = memory.Parts();
-  Environment environment{busy,           parts.screen,       parts.clipboard,
-                          parts.keyboard, parts.dialogs,      parts.messageLoop,
-                          parts.registry, parts.settingsArea, parts.shellFolders,
-                          parts.clock};
+  Environment environment = memory.Parts({.vbe = &busy});
   EXPECT_EQ(ActiveCodeModule(environment), nullptr);
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
 }
@@ -115,10 +112,7 @@ TEST(CodeSource, EveryTransformationShowsTheHourglassAndThenTheDefaultPointer) {
     SCOPED_TRACE(transformation.name);
     OpenedModule opened({"Sub A()", "x = 1", "End Sub"});
     NotingScreen screen;
-    Environment parts = opened.environment.Parts();
-    Environment noting{
-        parts.vbe,         screen,         parts.clipboard,    parts.keyboard,     parts.dialogs,
-        parts.messageLoop, parts.registry, parts.settingsArea, parts.shellFolders, parts.clock};
+    Environment noting = opened.environment.Parts({.screen = &screen});
     Context context{noting};
     transformation.run(context);
     EXPECT_THAT(screen.shown, ElementsAre(mouse_pointer::kHourglass, mouse_pointer::kDefault));

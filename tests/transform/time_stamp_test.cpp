@@ -78,10 +78,7 @@ TEST(TimeStamp, GivesTheClipboardsTextBackWhenTheKeystrokeFails) {
   MemoryEnvironment memory;
   DeafKeyboard deaf;
   memory.clipboard.SetText("the user's");
-  const Environment parts = memory.Parts();
-  AddIn addIn(Environment{parts.vbe, parts.screen, parts.clipboard, deaf, parts.dialogs,
-                          parts.messageLoop, parts.registry, parts.settingsArea, parts.shellFolders,
-                          parts.clock});
+  AddIn addIn(memory.Parts({.keyboard = &deaf}));
   ButtonClicked(addIn, kStamp, false);
   EXPECT_EQ(memory.clipboard.GetText(), "the user's");
 }

@@ -1,0 +1,85 @@
+#include "memory/memory_text_files.h"
+
+#include <utility>
+
+#include "environment/run_time_error.h"
+#include "environment/utf8.h"
+
+namespace brimwork {
+namespace {
+
+class MemoryOutputFile : public OutputFile {
+ public:
+  MemoryOutputFile(MemoryTextFiles& files, std::string path, UnencodableText unencodable)
+      : files_(files), path_(std::move(path)), unencodable_(unencodable) {}
+
+  void PrintLine(std::string_view line) override {
+    AppendEncoded(line);
+    bytes_ += "\r\n";
+  }
+
+  void Close() override { files_.Write(path_, std::move(bytes_)); }
+
+ private:
+  void AppendEncoded(std::string_view text) {
+    while (true) {
+      try {
+        bytes_ += files_.Codec().Encode(text, buffer_);
+        return;
+      } catch (const TextCodecError& error) {
+        if (unencodable_ == UnencodableText::kFails) {
+          throw RunTimeError(error_number::kInvalidProcedureCall, path_ + ": " + error.what());
+        }
+        AppendEncoded(text.substr(0, error.Offset()));
+        text = AppendReference(text.substr(error.Offset()));
+      }
+    }
+  }
+
+  /// Appends the first character of text as a reference; returns what follows it.
+  std::string_view AppendReference(std::string_view text) {
+    bytes_ += "&#" + std::to_string(static_cast<std::uint32_t>(Utf8Character(text))) + ';';
+    return text.substr(Utf8Size(text));
+  }
+
+  MemoryTextFiles& files_;
+  std::string path_;
+  UnencodableText unencodable_;
+  std::string bytes_;
+  std::string buffer_;
+};
+
+}  // namespace
+
+std::unique_ptr<OutputFile> MemoryTextFiles::OpenForOutput(std::string_view path,
+                                                           UnencodableText unencodable) {
+  return std::make_unique<MemoryOutputFile>(*this, std::string(path), unencodable);
+}
+
+void MemoryTextFiles::Write(std::string_view path, std::string bytes) {
+  if (isDiskFull) {
+    throw RunTimeError(error_number::kPathFileAccess, std::string(path) + " cannot be written");
+  }
+  files_.insert_or_assign(std::string(path), std::move(bytes));
+}
+
+TextCodec& MemoryTextFiles::Codec() {
+  if (codec_ != nullptr) return *codec_;
+  if (!ownCodec_) ownCodec_ = std::make_unique<TextCodec>("WINDOWS-1252");
+  return *ownCodec_;
+}
+
+std::string MemoryTextFiles::BytesOf(std::string_view path) const {
+  const auto file = files_.find(path);
+  return file == files_.end() ? std::string() : file->second;
+}
+
+std::string MemoryTextFiles::Take(std::string_view path) {
+  const auto file = files_.find(path);
+  if (file == files_.end()) return {};
+  std::string bytes = std::move(file->second);
+  files_.erase(file);
+  return bytes;
+}
+
+}  // namespace brimwork

@@ -1,0 +1,64 @@
+#include "memory/memory_window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "environment/run_time_error.h"
+
+namespace brimwork {
+
+MemoryWindow::MemoryWindow(MemoryWindows& all, std::string caption, int type,
+                           std::shared_ptr<KeyTarget> keys)
+    : all_(all), caption_(std::move(caption)), type_(type), keys_(std::move(keys)) {}
+
+void MemoryWindow::SetFocus() {
+  if (!visible_) {
+    throw RunTimeError(error_number::kInvalidProcedureCall,
+                       "the window \"" + caption_ + "\" is hidden and takes no focus");
+  }
+  all_.Activate(*this);
+}
+
+void MemoryWindow::Close() {
+  if (type_ == window_type::kCodeWindow || type_ == window_type::kDesigner) {
+    all_.Remove(*this);
+  } else {
+    visible_ = false;
+  }
+}
+
+std::shared_ptr<MemoryWindow> MemoryWindows::Add(std::string caption, int type,
+                                                 std::shared_ptr<KeyTarget> keys) {
+  windows_.push_back(
+      std::make_shared<MemoryWindow>(*this, std::move(caption), type, std::move(keys)));
+  return windows_.back();
+}
+
+std::shared_ptr<MemoryWindow> MemoryWindows::OfCaption(std::string_view caption) const {
+  const auto found = std::ranges::find_if(
+      windows_, [&](const auto& window) { return window->Caption() == caption; });
+  return found == windows_.end() ? nullptr : *found;
+}
+
+void MemoryWindows::Activate(MemoryWindow& window) {
+  active_ = Shared(window);
+  keyboard_.SetFocus(window.Keys());
+}
+
+void MemoryWindows::Remove(MemoryWindow& window) {
+  const auto removed = Shared(window);
+  if (!removed) return;
+  if (OnRemove) OnRemove(window);
+  std::erase(windows_, removed);
+  if (active_ != removed) return;
+  active_ = nullptr;
+  keyboard_.SetFocus(nullptr);
+}
+
+std::shared_ptr<MemoryWindow> MemoryWindows::Shared(const MemoryWindow& window) const {
+  const auto found =
+      std::ranges::find_if(windows_, [&](const auto& held) { return held.get() == &window; });
+  return found == windows_.end() ? nullptr : *found;
+}
+
+}  // namespace brimwork
