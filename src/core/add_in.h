@@ -25,7 +25,7 @@ struct AddIn {
 
   Environment environment;
   Context context;
-  frmInfo progressWindow;
+  frmInfo progressWindow{environment.richTextBoxes};
   std::function<void(const RunTimeError&)> onSkippedError;
 };
 

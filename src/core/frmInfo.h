@@ -1,14 +1,17 @@
-// The progress window: a message and a bar with its percentage. It is data; a host that shows it
-// asks to be told of each repaint.
+// The progress window: a message, a bar with its percentage, and the two rich text controls that
+// the exporters work in. It is data; a host that shows it asks to be told of each repaint.
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "export/progress_form.h"
+
 namespace brimwork {
 
-class frmInfo {
+class frmInfo : public ProgressForm {
  public:
   struct Label {
     std::string Caption;
@@ -18,17 +21,23 @@ class frmInfo {
     std::string Text;  // the text written on the bar
   };
 
+  /// controls: where the rich text controls come from, when they are first asked for.
+  explicit frmInfo(RichTextBoxes& controls) : controls_(controls) {}
+
   /// Sets the message; a title other than "" becomes the window's caption.
-  void ProgressMessage(std::string_view message, std::string_view formCaption = {});
+  void ProgressMessage(std::string_view message, std::string_view formCaption = {}) override;
 
   /// Draws the bar for current of total. The percentage is rounded up and a finished run stays one
   /// step below 100.
-  void UpdateProgressBar(int current, int total);
+  void UpdateProgressBar(int current, int total) override;
 
   void ResetProgressBar();
 
-  void Show();
-  void Hide();
+  void Show() override;
+  void Hide() override;
+
+  RichTextBox& rtf() override { return Control(rtf_); }
+  RichTextBox& rtfTemp() override { return Control(rtfTemp_); }
 
   std::string Caption;
   Label lblInfo;
@@ -42,6 +51,14 @@ class frmInfo {
   void Repaint() const {
     if (OnRepaint) OnRepaint(*this);
   }
+  RichTextBox& Control(std::unique_ptr<RichTextBox>& control) {
+    if (!control) control = controls_.Create();
+    return *control;
+  }
+
+  RichTextBoxes& controls_;
+  std::unique_ptr<RichTextBox> rtf_;
+  std::unique_ptr<RichTextBox> rtfTemp_;
 };
 
 }  // namespace brimwork

@@ -6,6 +6,8 @@
 
 #include "core/saved_selection.h"
 #include "environment/text.h"
+#include "export/modExportCode.h"
+#include "ide_windows/modSpellCheck.h"
 #include "ide_windows/modTweakWindow.h"
 #include "transform/code_source.h"
 #include "transform/modCleanUp.h"
@@ -22,6 +24,13 @@ namespace {
 constexpr std::string_view kInsertErrorHandling = "Insert Error Handling";
 constexpr std::string_view kAddLineNumbers = "Add Line Numbers";
 constexpr std::string_view kRemoveLineNumbers = "Remove Line Numbers";
+constexpr std::string_view kText = "Text";
+constexpr std::string_view kRtf = "RTF";
+constexpr std::string_view kWebPage = "Web Page";
+constexpr std::string_view kQuickExport = "Quick Export";
+
+constexpr bool kSelectedOnly = true;
+constexpr bool kWholeModule = false;
 
 // What is done to the current procedure, by the single commands and by the walk alike.
 
@@ -103,17 +112,34 @@ void StampTime(AddIn& addIn) {
   addIn.Attempt([&] { InsertTimeStamp(addIn.context); });
 }
 
+// Exports, of the selection and of the whole module.
+
+template <const std::string_view& format, bool selectedOnly>
+void Export(AddIn& addIn) {
+  const ExportTools tools{addIn.environment, addIn.progressWindow, addIn.onSkippedError};
+  addIn.Attempt([&] { ExportCode(tools, format, selectedOnly); });
+}
+
+void CheckSpelling(AddIn& addIn) {
+  addIn.Attempt([&] { SpellCheckQuotesAndComments(addIn.context); });
+}
+
 struct Command {
   std::string_view caption;
   void (*run)(AddIn&);
 };
 
 constexpr Command kCommands[] = {
+    {"Spell Check - Quotes and Comments", CheckSpelling},
     {"Insert Time Stamp", StampTime},
     {kInsertErrorHandling, OnCurrentProcedure<HandleErrorsInProcedure>},
     {"Comment Procedure", OnCurrentProcedureLocked<FrameProcedure>},
     {"Standard Header", OnCurrentProcedure<InsertStandardHeader>},
     {"Adapted Header", OnCurrentProcedure<InsertAdaptedHeader>},
+    {kText, Export<export_format::kText, kSelectedOnly>},
+    {kRtf, Export<export_format::kRtf, kSelectedOnly>},
+    {kWebPage, Export<export_format::kHtm, kSelectedOnly>},
+    {kQuickExport, Export<export_format::kQuickExport, kSelectedOnly>},
     {kAddLineNumbers, OnCurrentProcedureLocked<NumberProcedure>},
     {kRemoveLineNumbers, OnCurrentProcedureLocked<UnnumberProcedure>},
 };
@@ -129,7 +155,7 @@ void CleanUpModule(AddIn& addIn) {
 }
 
 struct ModuleCommand {
-  enum class Runs { kForEachProcedure, kOnce };
+  enum class Runs { kForEachProcedure, kOnceWithProcedures, kOnce };
 
   std::string_view caption;
   std::string_view title;
@@ -139,11 +165,16 @@ struct ModuleCommand {
 };
 
 constexpr ModuleCommand kModuleCommands[] = {
-    {"Code Clean Up", "", "", ModuleCommand::Runs::kOnce, CleanUpModule},
+    {"Code Clean Up", "", "", ModuleCommand::Runs::kOnceWithProcedures, CleanUpModule},
     {"Indent All Procedures", "Indenting All Procedures", "Now indenting all procedures",
      ModuleCommand::Runs::kForEachProcedure, IndentProcedure},
     {"Comment All Procedures", "Comment All Procedures", "Now adding comments to all procedures",
      ModuleCommand::Runs::kForEachProcedure, FrameProcedure},
+    {kText, "", "", ModuleCommand::Runs::kOnce, Export<export_format::kText, kWholeModule>},
+    {kRtf, "", "", ModuleCommand::Runs::kOnce, Export<export_format::kRtf, kWholeModule>},
+    {kWebPage, "", "", ModuleCommand::Runs::kOnce, Export<export_format::kHtm, kWholeModule>},
+    {kQuickExport, "", "", ModuleCommand::Runs::kOnce,
+     Export<export_format::kQuickExport, kWholeModule>},
     {kAddLineNumbers, "Add Line Numbers To All Procedures",
      "Now adding line numbers to all procedures", ModuleCommand::Runs::kForEachProcedure,
      NumberProcedure},
@@ -199,8 +230,9 @@ void RunModuleCommand(AddIn& addIn, const ModuleCommand& command) {
   const auto module = ActiveCodeModule(addIn.environment);
   if (!IsValidCodeSource(addIn.environment, module)) return;
   const ShownProgressWindow shown(addIn.progressWindow);
-  if (command.runs == ModuleCommand::Runs::kOnce) {
-    if (HasProcedures(*module)) command.act(addIn);
+  if (command.runs != ModuleCommand::Runs::kForEachProcedure) {
+    const bool needsProcedures = command.runs == ModuleCommand::Runs::kOnceWithProcedures;
+    if (!needsProcedures || HasProcedures(*module)) command.act(addIn);
     return;
   }
   if (const auto pane = addIn.environment.vbe.ActiveCodePane()) {

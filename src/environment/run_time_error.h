@@ -14,6 +14,7 @@ inline constexpr int kSubscriptOutOfRange = 9;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kProcedureNotDefined = 35;
 inline constexpr int kPathFileAccess = 75;
+inline constexpr int kObjectNotSet = 91;
 inline constexpr int kCannotCreateObject = 429;
 inline constexpr int kInvalidFileFormat = 32000;
 }  // namespace error_number

@@ -4,11 +4,14 @@
 
 #include <limits>
 
+#include "memory/memory_environment.h"
+
 namespace brimwork {
 namespace {
 
 std::string TagFor(int current, int total) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   window.UpdateProgressBar(current, total);
   return window.picProgress.Tag;
 }
@@ -54,13 +57,15 @@ TEST(ProgressWindow, CountsLinesOfTheLongestModules) {
 }
 
 TEST(ProgressWindow, WritesThePercentageOnTheBar) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   window.UpdateProgressBar(50, 100);
   EXPECT_EQ(window.picProgress.Text, "50%");
 }
 
 TEST(ProgressWindow, AMessageComesWithATitleOrKeepsTheOneThatIsThere) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   window.ProgressMessage("one", "Title");
   EXPECT_EQ(window.lblInfo.Caption, "one");
   EXPECT_EQ(window.Caption, "Title");
@@ -71,7 +76,8 @@ TEST(ProgressWindow, AMessageComesWithATitleOrKeepsTheOneThatIsThere) {
 }
 
 TEST(ProgressWindow, ResetAsksForPatienceAndEmptiesTheBar) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   window.ProgressMessage("done", "Done");
   window.UpdateProgressBar(100, 100);
   window.ResetProgressBar();
@@ -82,7 +88,8 @@ TEST(ProgressWindow, ResetAsksForPatienceAndEmptiesTheBar) {
 }
 
 TEST(ProgressWindow, IsHiddenUntilItIsShown) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   EXPECT_FALSE(window.Visible);
   window.Show();
   EXPECT_TRUE(window.Visible);
@@ -91,7 +98,8 @@ TEST(ProgressWindow, IsHiddenUntilItIsShown) {
 }
 
 TEST(ProgressWindow, IsRepaintedAtOnceAfterEachChange) {
-  frmInfo window;
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
   std::string painted;
   window.OnRepaint = [&](const frmInfo& shown) {
     painted += shown.lblInfo.Caption + '/' + shown.picProgress.Tag + ' ';

@@ -1,0 +1,47 @@
+// Colours the code in a rich text control, character by character from the top.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "export/export_tools.h"
+#include "export/keyword_list.h"
+
+namespace brimwork {
+
+class CodeColoring {
+ public:
+  /// text: what the control work holds.
+  CodeColoring(const ExportTools& tools, RichTextBox& work, KeywordList& keywords,
+               std::string_view text);
+
+  /// Raises error 5, with the line, for a quote without a further quote behind it.
+  void Run();
+
+ private:
+  /// A place in the text: the character's number from 1, and its byte.
+  struct Place {
+    int character = 1;
+    std::size_t byte = 0;
+  };
+
+  void Take();
+  void AddToWord();
+  void SkipLiteral();
+  void ColorComment();
+  void CheckWord();
+  Place PlaceOf(std::size_t byte) const;
+  [[noreturn]] void RefuseOpenLiteral() const;
+
+  const ExportTools& tools_;
+  RichTextBox& work_;
+  KeywordList& keywords_;
+  std::string text_;  // with a blank behind it, which closes the last word
+  int length_;        // in characters
+  bool isAscii_;
+  Place at_;
+  std::string word_;
+  int wordStart_ = 0;  // character, from 1
+};
+
+}  // namespace brimwork
