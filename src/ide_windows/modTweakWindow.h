@@ -1,4 +1,4 @@
-// Keeps a window from redrawing while a command changes what it shows.
+// Small changes to single windows: freezing the drawing, staying on top, and the close button.
 #pragma once
 
 #include <string>
@@ -28,5 +28,21 @@ class RedrawLock {
   std::string title_;
   WindowHandle handle_ = 0;
 };
+
+/// Puts the window above all others, or among them again, where it is and as large as it is. A
+/// run-time error is passed over.
+void SetTopMost(Environment& environment, WindowHandle window, bool onTop);
+
+/// What EnableCloseButton returns.
+namespace close_button {
+inline constexpr int kDone = 0;  // also when there is no Close item in the state to be changed
+inline constexpr int kNoWindow = -1;
+inline constexpr int kItemNotMoved = -2;
+inline constexpr int kStateNotChanged = -3;
+}  // namespace close_button
+
+/// Enables or disables the Close item of the window's system menu, and with it the caption's close
+/// button. Returns one of close_button; a step that raises a run-time error has failed.
+int EnableCloseButton(Environment& environment, WindowHandle window, bool enable);
 
 }  // namespace brimwork

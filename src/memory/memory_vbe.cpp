@@ -1,9 +1,12 @@
 #include "memory/memory_vbe.h"
 
+#include <algorithm>
+
 namespace brimwork {
 
 MemoryVbe::MemoryVbe(MemoryKeyboard& keyboard)
     : windows(keyboard), mainWindow_(windows.Add(kMainWindowCaption, window_type::kMainWindow)) {
+  windows.OnActivate = [this](MemoryWindow& window) { NoteActivation(window); };
   windows.OnRemove = [this](MemoryWindow& window) { ForgetPaneOf(window); };
   AddCommandBar(std::make_shared<MemoryCommandBar>("Menu Bar"));
 }
@@ -29,7 +32,6 @@ void MemoryVbe::OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::strin
   const auto window = windows.Add(std::move(caption), window_type::kCodeWindow, pane);
   pane->SetContainingWindow(window);
   panes_.push_back(pane);
-  activePane_ = pane;
   window->SetFocus();
 }
 
@@ -37,10 +39,23 @@ void MemoryVbe::AddCommandBar(std::shared_ptr<MemoryCommandBar> bar) {
   commandBars_.push_back(std::move(bar));
 }
 
+MemoryVbe::Panes::iterator MemoryVbe::PaneOf(MemoryWindow& window) {
+  return std::ranges::find_if(panes_,
+                              [&](const auto& pane) { return pane.get() == window.Keys(); });
+}
+
+void MemoryVbe::NoteActivation(MemoryWindow& window) {
+  const auto pane = PaneOf(window);
+  if (pane == panes_.end()) return;
+  std::rotate(pane, pane + 1, panes_.end());
+  activePane_ = panes_.back();
+}
+
 void MemoryVbe::ForgetPaneOf(MemoryWindow& window) {
-  const auto isOfWindow = [&](const auto& pane) { return pane.get() == window.Keys(); };
-  const bool wasActive = activePane_ && isOfWindow(activePane_);
-  std::erase_if(panes_, isOfWindow);
+  const auto pane = PaneOf(window);
+  if (pane == panes_.end()) return;
+  const bool wasActive = activePane_ == *pane;
+  panes_.erase(pane);
   if (wasActive) activePane_ = panes_.empty() ? nullptr : panes_.back();
 }
 

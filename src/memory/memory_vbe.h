@@ -50,9 +50,13 @@ class MemoryVbe : public VBE {
   MemoryWindows windows;
 
  private:
+  using Panes = std::vector<std::shared_ptr<MemoryCodePane>>;
+
+  Panes::iterator PaneOf(MemoryWindow& window);
+  void NoteActivation(MemoryWindow& window);
   void ForgetPaneOf(MemoryWindow& window);
 
-  std::vector<std::shared_ptr<MemoryCodePane>> panes_;  // the latest one last
+  Panes panes_;  // the one that was active last stands last
   std::shared_ptr<MemoryCodePane> activePane_;
   std::shared_ptr<VBProject> project_;
   std::shared_ptr<MemoryWindow> mainWindow_;

@@ -11,6 +11,11 @@ MemoryWindow::MemoryWindow(MemoryWindows& all, std::string caption, int type,
                            std::shared_ptr<KeyTarget> keys)
     : all_(all), caption_(std::move(caption)), type_(type), keys_(std::move(keys)) {}
 
+void MemoryWindow::SetVisible(bool visible) {
+  visible_ = visible;
+  if (!visible) all_.Deactivate(*this);
+}
+
 void MemoryWindow::SetFocus() {
   if (!visible_) {
     throw RunTimeError(error_number::kInvalidProcedureCall,
@@ -23,7 +28,7 @@ void MemoryWindow::Close() {
   if (type_ == window_type::kCodeWindow || type_ == window_type::kDesigner) {
     all_.Remove(*this);
   } else {
-    visible_ = false;
+    SetVisible(false);
   }
 }
 
@@ -41,8 +46,20 @@ std::shared_ptr<MemoryWindow> MemoryWindows::OfCaption(std::string_view caption)
 }
 
 void MemoryWindows::Activate(MemoryWindow& window) {
-  active_ = Shared(window);
+  const auto activated = Shared(window);
+  if (!activated) {
+    throw RunTimeError(error_number::kInvalidProcedureCall,
+                       "the window \"" + window.Caption() + "\" is closed and takes no focus");
+  }
+  active_ = activated;
   keyboard_.SetFocus(window.Keys());
+  if (OnActivate) OnActivate(window);
+}
+
+void MemoryWindows::Deactivate(const MemoryWindow& window) {
+  if (active_.get() != &window) return;
+  active_ = nullptr;
+  keyboard_.SetFocus(nullptr);
 }
 
 void MemoryWindows::Remove(MemoryWindow& window) {
@@ -50,9 +67,7 @@ void MemoryWindows::Remove(MemoryWindow& window) {
   if (!removed) return;
   if (OnRemove) OnRemove(window);
   std::erase(windows_, removed);
-  if (active_ != removed) return;
-  active_ = nullptr;
-  keyboard_.SetFocus(nullptr);
+  Deactivate(window);
 }
 
 std::shared_ptr<MemoryWindow> MemoryWindows::Shared(const MemoryWindow& window) const {

@@ -23,7 +23,10 @@ class MemoryWindow : public Window {
   std::string Caption() override { return caption_; }
   int Type() override { return type_; }
   bool Visible() override { return visible_; }
-  void SetVisible(bool visible) override { visible_ = visible; }
+
+  /// A window that is hidden gives the focus away.
+  void SetVisible(bool visible) override;
+
   void SetFocus() override;
   void Close() override;
 
@@ -54,11 +57,17 @@ class MemoryWindows {
 
   /// The window with the focus; null when none has it.
   std::shared_ptr<MemoryWindow> Active() const { return active_; }
+
+  /// Gives a window the focus; one that was closed raises an error.
   void Activate(MemoryWindow& window);
+
+  /// Takes the focus from the window if it has it; no other gets it.
+  void Deactivate(const MemoryWindow& window);
 
   void Remove(MemoryWindow& window);
 
-  /// Called before a window goes away; may be empty.
+  /// Called when a window has got the focus, and before one goes away; may be empty.
+  std::function<void(MemoryWindow&)> OnActivate;
   std::function<void(MemoryWindow&)> OnRemove;
 
  private:

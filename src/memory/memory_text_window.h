@@ -1,0 +1,36 @@
+// A window of plain text, such as the Immediate window: the text with its caret and selection, and
+// what keystrokes do to them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "memory/key_target.h"
+
+namespace brimwork {
+
+class MemoryTextWindow : public KeyTarget {
+ public:
+  const std::string& Text() const { return text_; }
+
+  /// The lines end in CR LF, whatever they ended in; the caret stands behind the text.
+  void SetText(std::string_view text);
+
+  /// Counts from 0 in characters, a line's end as two; a place behind the text is drawn back to its
+  /// end. length 0 puts the caret there.
+  void Select(int start, int length);
+  std::string SelectedText() const;
+
+  void Copy(Clipboard& clipboard) override;
+  void Paste(Clipboard& clipboard) override;
+  void SelectAll() override;
+  void Delete() override;
+  void Type(std::string_view text) override;
+
+ private:
+  std::string text_;
+  std::size_t start_ = 0;   // of the selection, in bytes
+  std::size_t length_ = 0;  // of the selection, in bytes
+};
+
+}  // namespace brimwork
