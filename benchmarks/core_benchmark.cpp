@@ -8,6 +8,9 @@
 #include "benchmark_module.h"
 #include "core/modButtonClicked.h"
 #include "memory/memory_environment.h"
+#include "settings/setting_defaults.h"
+#include "settings/setting_keys.h"
+#include "settings/settings.h"
 
 namespace brimwork {
 namespace {
@@ -24,6 +27,8 @@ const std::string& ModuleOf(int lines) {
 struct OpenModule {
   explicit OpenModule(const std::string& text) {
     memory.Open("Module1", ModuleText::FromText(text));
+    memory.dialogs.SaveTo("Module1.out");
+    SaveSetting(addIn.environment, setting::kKeyWordList, kBuiltInKeyWordList);
   }
 
   MemoryEnvironment memory;
@@ -59,6 +64,9 @@ BENCHMARK_CAPTURE(RunCommand, RemoveLineNumbers, "Remove Line Numbers", "Add Lin
 BENCHMARK_CAPTURE(RunCommand, InsertErrorHandling, "Insert Error Handling", "")->Apply(Sizes);
 BENCHMARK_CAPTURE(RunCommand, CommentAllProcedures, "Comment All Procedures", "")->Apply(Sizes);
 BENCHMARK_CAPTURE(RunCommand, CodeCleanUp, "Code Clean Up", "")->Apply(Sizes);
+BENCHMARK_CAPTURE(RunCommand, ExportText, "Text", "")->Apply(Sizes);
+BENCHMARK_CAPTURE(RunCommand, ExportRtf, "RTF", "")->Apply(Sizes);
+BENCHMARK_CAPTURE(RunCommand, ExportHtml, "Web Page", "")->Apply(Sizes);
 
 }  // namespace
 }  // namespace brimwork

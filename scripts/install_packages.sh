@@ -6,7 +6,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev)
 test=(libgtest-dev libgmock-dev patch git locales)
-bench=(libbenchmark-dev time)
+bench=(libbenchmark-dev time highlight enscript python3-pygments)
 
 Fail() {
   echo "install_packages: $*" >&2

@@ -7,6 +7,8 @@
 #include "core/saved_selection.h"
 #include "environment/text.h"
 #include "export/modExportCode.h"
+#include "ide_windows/modFullScreen.h"
+#include "ide_windows/modMiscellaneousButtonClickCode.h"
 #include "ide_windows/modSpellCheck.h"
 #include "ide_windows/modTweakWindow.h"
 #include "transform/code_source.h"
@@ -120,6 +122,21 @@ void Export(AddIn& addIn) {
   addIn.Attempt([&] { ExportCode(tools, format, selectedOnly); });
 }
 
+// Commands on the environment's windows.
+
+void SwitchFullScreen(AddIn& addIn) {
+  const RedrawLock lock(addIn.environment);
+  addIn.Attempt([&] { ToggleFullScreen(addIn.environment); });
+}
+
+void EmptyImmediateWindow(AddIn& addIn) {
+  addIn.Attempt([&] { ClearImmediateWindow(addIn.environment); });
+}
+
+void CloseOtherWindows(AddIn& addIn) {
+  addIn.Attempt([&] { CloseCodeWindows(addIn.environment, false); });
+}
+
 void CheckSpelling(AddIn& addIn) {
   addIn.Attempt([&] { SpellCheckQuotesAndComments(addIn.context); });
 }
@@ -130,7 +147,10 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
+    {"Full Screen", SwitchFullScreen},
     {"Spell Check - Quotes and Comments", CheckSpelling},
+    {"Clear Immediate Window", EmptyImmediateWindow},
+    {"Close Windows", CloseOtherWindows},
     {"Insert Time Stamp", StampTime},
     {kInsertErrorHandling, OnCurrentProcedure<HandleErrorsInProcedure>},
     {"Comment Procedure", OnCurrentProcedureLocked<FrameProcedure>},
