@@ -17,6 +17,15 @@ int Percentage(double current, double total) {
   return fits ? static_cast<int>(std::clamp(percentage, 0.0, 100.0)) : 0;
 }
 
+/// The last one from current on that has the percentage of current; current itself where the
+/// percentage is not the plain one of a part of a whole.
+int LastWithSamePercentage(int current, int total) {
+  if (current < 0 || current >= total) return current;
+  const std::int64_t percentLeft = (std::int64_t{total} - current) * 100 / total;
+  const std::int64_t leastLeft = (percentLeft * total + 99) / 100;
+  return static_cast<int>(total - std::max<std::int64_t>(leastLeft, 1));
+}
+
 }  // namespace
 
 void frmInfo::ProgressMessage(std::string_view message, std::string_view formCaption) {
@@ -26,6 +35,8 @@ void frmInfo::ProgressMessage(std::string_view message, std::string_view formCap
 }
 
 void frmInfo::UpdateProgressBar(int current, int total) {
+  if (drawn_.Holds(current, total)) return;
+  drawn_ = {current, LastWithSamePercentage(current, total), total};
   picProgress.Tag = std::to_string(Percentage(current, total));
   picProgress.Text = picProgress.Tag + '%';
   Repaint();

@@ -28,7 +28,7 @@ class frmInfo : public ProgressForm {
   void ProgressMessage(std::string_view message, std::string_view formCaption = {}) override;
 
   /// Draws the bar for current of total. The percentage is rounded up and a finished run stays one
-  /// step below 100.
+  /// step below 100. A bar that shows that percentage already is left as it is.
   void UpdateProgressBar(int current, int total) override;
 
   void ResetProgressBar();
@@ -56,6 +56,19 @@ class frmInfo : public ProgressForm {
     return *control;
   }
 
+  /// The calls, of those with the same total, that would draw the bar once more as it is. Exporters
+  /// make one call for each character.
+  struct DrawnSpan {
+    int first = 0;
+    int last = -1;
+    int total = 0;
+
+    bool Holds(int current, int ofTotal) const {
+      return ofTotal == total && first <= current && current <= last;
+    }
+  };
+
+  DrawnSpan drawn_;
   RichTextBoxes& controls_;
   std::unique_ptr<RichTextBox> rtf_;
   std::unique_ptr<RichTextBox> rtfTemp_;

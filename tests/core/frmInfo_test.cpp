@@ -110,5 +110,26 @@ TEST(ProgressWindow, IsRepaintedAtOnceAfterEachChange) {
   EXPECT_EQ(painted, "one/ one/50 two/50 ");
 }
 
+TEST(ProgressWindow, IsNotRepaintedWhileThePercentageStays) {
+  MemoryEnvironment memory;
+  frmInfo window{memory.richTextBoxes};
+  int repaints = 0;
+  window.OnRepaint = [&](const frmInfo&) { ++repaints; };
+  for (int current = 0; current <= 10'000; ++current) window.UpdateProgressBar(current, 10'000);
+  EXPECT_LE(repaints, 102);
+  EXPECT_EQ(window.picProgress.Tag, "100");
+}
+
+TEST(ProgressWindow, ShowsTheSameWhetherEachStepOrOnlyOneIsDrawn) {
+  for (const int total : {1, 2, 3, 7, 99, 100, 101, 150, 997}) {
+    MemoryEnvironment memory;
+    frmInfo window{memory.richTextBoxes};
+    for (int current = -2; current <= total + 2; ++current) {
+      window.UpdateProgressBar(current, total);
+      EXPECT_EQ(window.picProgress.Tag, TagFor(current, total)) << current << " of " << total;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace brimwork
