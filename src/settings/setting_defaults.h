@@ -1,5 +1,5 @@
 // The texts that readers of the settings fall back on: the separator line, the header templates,
-// the error-handling text and the clean-up steps.
+// the error-handling text, the clean-up steps and the built-in keyword list.
 #pragma once
 
 #include <string_view>
@@ -21,5 +21,27 @@ inline constexpr std::string_view kDefaultErrorHandling = "TEST HANDLE";
 
 inline constexpr std::string_view kDefaultCleanUpCodeOptions =
     "Header,Error,Indent,Comment,LineNumber";
+
+/// The keywords that the setup dialog offers, joined by commas without blanks. Two words come
+/// twice, as users' stored copies of the list have them.
+inline constexpr std::string_view kBuiltInKeyWordList =
+    "-,#Const,#Else,#If,&,*,/,\\,^,+,<,=,>,Abs,Add,And,AppActivate,Array,As,Asc,Atn,Base,Beep,"
+    "Binary,Boolean,Byte,Call,Case,CBool,CByte,CCur,CDate,CDbl,CDec,ChDir,ChDrive,Choose,Chr,"
+    "CInt,Clear,CLng,Close,Collection,Command,Compare,Const,Cos,CreateObject,CSng,CStr,"
+    "CurDir,Currency,CVar,CVErr,Date,DateAdd,DateDiff,DatePart,DateSerial,DateValue,Day,DDB,"
+    "Declare,Debug,DefBool,DefByte,DefCur,DefDate,DefDbl,DefDec,DefInt,DefLng,DefObj,DefSng,"
+    "DefStr,DefVar,DeleteSetting,Dim,Dir,Do,DoEvents,Double,Each,Else,ElseIf,End,Enum,"
+    "Environ,EOF,Eqv,Erase,Err,Error,Exit,Exp,Explicit,False,FileAttr,FileCopy,FileDateTime,"
+    "FileLen,Fix,For,Format,FreeFile,Function,FV,Get,GetAllSettings,GetAttr,GetObject,"
+    "GetSetting,GoSub,GoTo,Hex,Hour,If,Imp,Input,InStr,Int,Integer,IPmt,IRR,Is,IsArray,"
+    "IsDate,IsEmpty,IsError,IsMissing,IsNull,IsNumeric,IsObject,Item,Kill,LBound,LCase,Left,"
+    "Len,Let,Like,Line,Input,Loc,Local,Lock,LOF,Log,Long,Loop,LSet,LTrim,Me,Mid,Minute,MIRR,"
+    "MkDir,Mod,Module,Month,Name,New,Next,Not,Now,NPer,NPV,Object,Oct,On,Open,Option,Option,"
+    "Or,Output,Pmt,PPmt,Preserve,Print,Private,Property,Public,Put,PV,QBColor,Raise,"
+    "Randomize,Rate,ReDim,Remove,Reset,Resume,Return,RGB,Right,RmDir,Rnd,RSet,RTrim,"
+    "SaveSetting,Second,Seek,Select,SendKeys,Set,SetAttr,Sgn,Shell,Sin,Single,SLN,Space,Spc,"
+    "Sqr,Static,Stop,Str,StrComp,StrConv,String,Sub,Switch,SYD,Tab,Tan,Then,Time,Timer,"
+    "TimeSerial,TimeValue,Trim,True,TypeName,To,UBound,UCase,Unlock,Val,Variant,VarType,"
+    "Weekday,Wend,While,Width,With,Write";
 
 }  // namespace brimwork

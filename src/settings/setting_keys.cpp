@@ -34,10 +34,8 @@ void AddEditingKeys(std::vector<SettingKey>& keys) {
   keys.push_back({setting::kErrorHandling,
                   "lines of code; CURRENTFULLPROCEDUREPATH stands for the procedure's path",
                   Text(kDefaultErrorHandling), Text("")});
-  // The setup dialog shows a built-in list here. That list belongs to the dialog, which does not
-  // exist yet, so the table has no text for it.
-  keys.push_back(
-      {setting::kKeyWordList, "words joined by commas, without blanks", Text(""), std::nullopt});
+  keys.push_back({setting::kKeyWordList, "words joined by commas, without blanks", Text(""),
+                  Text(kBuiltInKeyWordList)});
   keys.push_back(Shared(setting::kSeparator, "one comment line", Text(kSeparatorLine)));
   keys.push_back(CommandsOnly(setting::kSeperator,
                               "one comment line; the spell check's own, written by nothing",

@@ -50,8 +50,8 @@ struct SettingKey {
   std::string_view format;  // what a value looks like, one line for people
   SettingDefault commandDefault;
   /// What the setup dialog shows. It differs from commandDefault on purpose: the dialog leaves a
-  /// box empty where a command falls back on its built-in text. Nothing for a key that the dialog
-  /// does not read with a fixed text of its own.
+  /// box empty where a command falls back on its built-in text, and offers keywords where a command
+  /// has none. Nothing for a key that the dialog does not read.
   std::optional<SettingDefault> setupDefault;
 };
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -64,9 +65,26 @@ TEST(SettingKeys, WithAnEmptyStoreTheSetupDialogsDefaultsAreItsOwn) {
             "Header,Error,Indent,Comment,LineNumber");
 }
 
-TEST(SettingKeys, TheKeyWordListHasNoSetupDefaultInTheTable) {
-  ASSERT_NE(FindSettingKey(setting::kKeyWordList), nullptr);
-  EXPECT_FALSE(FindSettingKey(setting::kKeyWordList)->setupDefault.has_value());
+TEST(SettingKeys, WithAnEmptyStoreTheSetupDialogOffersTheBuiltInKeywords) {
+  DesktopFixture desktop;
+  EXPECT_EQ(SetupText(desktop, setting::kKeyWordList), kBuiltInKeyWordList);
+}
+
+TEST(SettingKeys, TheBuiltInKeywordsAreJoinedByCommasWithoutBlanks) {
+  const auto words = Split(kBuiltInKeyWordList, ",");
+  EXPECT_EQ(words.size(), 246u);
+  EXPECT_TRUE(kBuiltInKeyWordList.starts_with("-,#Const,#Else,#If,&,*,/,\\,^,+,<,=,>,Abs,"));
+  EXPECT_TRUE(kBuiltInKeyWordList.ends_with(",While,Width,With,Write"));
+  EXPECT_FALSE(Contains(kBuiltInKeyWordList, " "));
+  for (const std::string_view word : words) EXPECT_FALSE(word.empty());
+}
+
+TEST(SettingKeys, TheBuiltInKeywordsHoldInputAndOptionTwiceAndEveryOtherOnce) {
+  std::map<std::string_view, int> counts;
+  for (const std::string_view word : Split(kBuiltInKeyWordList, ",")) ++counts[word];
+  for (const auto& [word, count] : counts) {
+    EXPECT_EQ(count, word == "Input" || word == "Option" ? 2 : 1) << word;
+  }
 }
 
 TEST(SettingKeys, WithAnEmptyStoreCommandsReadTheirBuiltInTexts) {
