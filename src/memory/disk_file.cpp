@@ -20,10 +20,12 @@ using posix::Descriptor;
 using posix::TemporaryFile;
 using posix::ThrowSystemError;
 
-void RequireRegularFile(const struct stat& status, const std::string& path) {
+/// done: what was to be done with the file.
+void RequireRegularFile(const struct stat& status, const std::string& path,
+                        const std::string& done) {
   if (S_ISDIR(status.st_mode)) throw SourceError(path, "this is a folder; name a file");
   if (!S_ISREG(status.st_mode))
-    throw SourceError(path, "this is no regular file; only regular files can be read");
+    throw SourceError(path, "this is no regular file; only regular files can be " + done);
 }
 
 SourceError ChangedWhileRead(const std::string& path) {
@@ -70,6 +72,12 @@ void RequireWritable(const std::string& target, mode_t mode, const std::string& 
     throw SourceError(path, "the file is read-only; it was left as it is");
 }
 
+std::string FolderOf(const std::string& path) {
+  const auto slash = path.rfind('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
 void TakeOverPermissions(const Descriptor& file, const struct stat& status,
                          const std::string& path) {
   constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
@@ -112,10 +120,10 @@ void RewriteInPlace(const Descriptor& content, const std::string& target,
 
 FileContent ReadWholeFile(const std::string& path) {
   // Looked at before it is opened: opening a pipe would wait, opening a device may do things.
-  RequireRegularFile(posix::StatusOf(path), path);
+  RequireRegularFile(posix::StatusOf(path), path, "read");
   const Descriptor file = posix::Open(path, O_RDONLY | O_NONBLOCK);
   const struct stat status = posix::StatusOf(file, path);
-  RequireRegularFile(status, path);
+  RequireRegularFile(status, path, "read");
   FileContent content{ReadBytes(file, static_cast<std::size_t>(status.st_size), path),
                       posix::SnapshotOf(status)};
   const FileSnapshot after = posix::SnapshotOf(posix::StatusOf(file, path));
@@ -124,24 +132,45 @@ FileContent ReadWholeFile(const std::string& path) {
   return content;
 }
 
+std::optional<FileSnapshot> LookAtFile(const std::string& path) {
+  struct stat link;
+  if (lstat(path.c_str(), &link) != 0) {
+    if (errno == ENOENT) return std::nullopt;
+    ThrowSystemError(path, "lstat");
+  }
+  const struct stat status = posix::StatusOf(path);
+  RequireRegularFile(status, path, "replaced");
+  return posix::SnapshotOf(status);
+}
+
 void WriteWholeFile(const std::string& path, const FileSnapshot& snapshot,
                     const FileComposer& compose) {
   const std::string target = BehindLinks(path);
-  const std::string folder = target.substr(0, target.rfind('/'));
+  const std::string folder = FolderOf(target);
   RequireUnchanged(target, snapshot, path);
   const struct stat status = posix::StatusOf(target);
   RequireWritable(target, status.st_mode, path);
 
-  TemporaryFile content = TemporaryFile::Unnamed(folder.empty() ? "/" : folder);
+  TemporaryFile content = TemporaryFile::Unnamed(folder);
   const int descriptor = content.File().Number();
   compose([&](std::string_view bytes) { WriteAll(descriptor, bytes, path); });
   TakeOverPermissions(content.File(), status, path);
   posix::Flush(content.File(), path);
   RequireUnchanged(target, snapshot, path);
   if (status.st_nlink > 1) {
-    RewriteInPlace(content.File(), target, folder.empty() ? "/" : folder);
+    RewriteInPlace(content.File(), target, folder);
   } else {
     content.MoveTo(target);
+  }
+}
+
+void CreateWholeFile(const std::string& path, const FileComposer& compose) {
+  TemporaryFile content = TemporaryFile::Unnamed(FolderOf(path), posix::kAsNewFilesAre);
+  const int descriptor = content.File().Number();
+  compose([&](std::string_view bytes) { WriteAll(descriptor, bytes, path); });
+  posix::Flush(content.File(), path);
+  if (!content.MoveToFree(path)) {
+    throw SourceError(path, "there is a file of that name by now; it was left as it is");
   }
 }
 

@@ -1,8 +1,9 @@
-// Reading a user's file whole, and replacing it whole or not at all.
+// Reading a user's file whole, and replacing or making one whole or not at all.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,10 @@ struct FileContent {
 /// be read and stayed as it was meanwhile.
 FileContent ReadWholeFile(const std::string& path);
 
+/// What WriteWholeFile takes to replace the file at path, links followed; nothing when nothing is
+/// there, not even a link. Throws SourceError for everything but a regular file.
+std::optional<FileSnapshot> LookAtFile(const std::string& path);
+
 /// Streams a file's new bytes into the sink it is given.
 using FileComposer = std::function<void(const ByteSink&)>;
 
@@ -39,6 +44,11 @@ using FileComposer = std::function<void(const ByteSink&)>;
 /// the error names the copy of its old bytes).
 void WriteWholeFile(const std::string& path, const FileSnapshot& snapshot,
                     const FileComposer& compose);
+
+/// Makes the file of the composed bytes, with the permissions that the user gives new files. They
+/// are on the disk when this returns. Throws SourceError, also when there is something at path by
+/// then, or what compose throws; nothing is made then, and what is at path stays.
+void CreateWholeFile(const std::string& path, const FileComposer& compose);
 
 /// Writes all bytes to an open descriptor; name ("standard output") is for the message of the
 /// SourceError that a failure throws.

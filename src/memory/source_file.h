@@ -26,6 +26,9 @@ class SourceFile {
   /// The encoding that was used.
   const std::string& Encoding() const { return codec_->Encoding(); }
 
+  /// What decoded the file, to encode what is made of its text.
+  TextCodec& Codec() const { return *codec_; }
+
   /// The lines that the environment shows, to be edited; can be taken once.
   ModuleText TakeText() { return std::move(module_); }
 

@@ -1,7 +1,6 @@
 #include "memory/temporary_file.h"
 
 #include <fcntl.h>
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -18,6 +17,17 @@ std::string OpenFilePath(const Descriptor& file) {
   return "/proc/self/fd/" + std::to_string(file.Number());
 }
 
+/// rename that replaces nothing: fails with EEXIST instead.
+int RenameToFree(const std::string& path, const std::string& target) {
+#ifdef RENAME_NOREPLACE
+  const int renamed = renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE);
+  if (renamed == 0 || (errno != EINVAL && errno != ENOSYS)) return renamed;
+#endif
+  // Not every file system knows that call; those that do not know links do.
+  if (link(path.c_str(), target.c_str()) != 0) return -1;
+  return unlink(path.c_str());
+}
+
 }  // namespace
 
 TemporaryFile::TemporaryFile(Descriptor file, std::string folder, std::string path)
@@ -32,20 +42,24 @@ TemporaryFile::~TemporaryFile() {
   if (!path_.empty()) unlink(path_.c_str());
 }
 
-TemporaryFile TemporaryFile::Unnamed(const std::string& folder) {
+TemporaryFile TemporaryFile::Unnamed(const std::string& folder, mode_t mode) {
 #ifdef O_TMPFILE
-  Descriptor file(open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+  Descriptor file(open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
   if (file.IsOpen() && access(OpenFilePath(file).c_str(), F_OK) == 0)
     return {std::move(file), folder, ""};
 #endif
-  return Named(folder);
+  return Named(folder, mode);
 }
 
-TemporaryFile TemporaryFile::Named(const std::string& folder) {
-  std::string path = folder + kNamePrefix + "XXXXXX";
-  Descriptor file(mkostemp(path.data(), O_CLOEXEC));
-  if (!file.IsOpen()) ThrowSystemError(folder, "cannot make a temporary file in this folder");
-  return {std::move(file), folder, std::move(path)};
+TemporaryFile TemporaryFile::Named(const std::string& folder, mode_t mode) {
+  const std::string own = folder + kNamePrefix + std::to_string(getpid()) + "-";
+  for (int attempt = 0;; ++attempt) {
+    std::string path = own + std::to_string(attempt);
+    Descriptor file(open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, mode));
+    if (file.IsOpen()) return {std::move(file), folder, std::move(path)};
+    // Another thread's, or left behind by another process of that number.
+    if (errno != EEXIST) ThrowSystemError(folder, "cannot make a temporary file in this folder");
+  }
 }
 
 void TemporaryFile::MoveTo(const std::string& target) {
@@ -53,6 +67,17 @@ void TemporaryFile::MoveTo(const std::string& target) {
   if (rename(path_.c_str(), target.c_str()) != 0) ThrowSystemError(target, "rename");
   path_.clear();
   FlushFolder(folder_);
+}
+
+bool TemporaryFile::MoveToFree(const std::string& target) {
+  const int moved = path_.empty() ? linkat(AT_FDCWD, OpenFilePath(file_).c_str(), AT_FDCWD,
+                                           target.c_str(), AT_SYMLINK_FOLLOW)
+                                  : RenameToFree(path_, target);
+  if (moved != 0 && errno == EEXIST) return false;
+  if (moved != 0) ThrowSystemError(target, "link");
+  path_.clear();
+  FlushFolder(folder_);
+  return true;
 }
 
 void TemporaryFile::TakeName() {

@@ -1,5 +1,5 @@
-// A file that comes into being beside the one it will replace, and leaves nothing behind when it
-// does not get that far.
+// A file that comes into being beside the one it will replace, or without a name until it is whole,
+// and leaves nothing behind when it does not get that far.
 #pragma once
 
 #include <string>
@@ -8,13 +8,16 @@
 
 namespace brimwork::posix {
 
+inline constexpr mode_t kForTheOwner = 0600;
+inline constexpr mode_t kAsNewFilesAre = 0666;  // less what the user's mask takes away
+
 class TemporaryFile {
  public:
   /// Without a name where the file system can, so that not even a killed process leaves it behind.
-  static TemporaryFile Unnamed(const std::string& folder);
+  static TemporaryFile Unnamed(const std::string& folder, mode_t mode = kForTheOwner);
 
   /// With a name, to be found again after a crash.
-  static TemporaryFile Named(const std::string& folder);
+  static TemporaryFile Named(const std::string& folder, mode_t mode = kForTheOwner);
 
   TemporaryFile(TemporaryFile&& other) noexcept;
   TemporaryFile& operator=(TemporaryFile&&) = delete;
@@ -25,6 +28,10 @@ class TemporaryFile {
 
   /// Replaces target, which is in the same folder, in one step.
   void MoveTo(const std::string& target);
+
+  /// Gives it the name target, in the same folder, in one step; false, and target is as it was,
+  /// when something has that name.
+  bool MoveToFree(const std::string& target);
 
   /// Leaves the file where it is.
   void Keep() { path_.clear(); }

@@ -3,26 +3,21 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <linux/audit.h>
-#include <linux/filter.h>
-#include <linux/seccomp.h>
 #include <sys/mount.h>
-#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <csignal>
-#include <cstddef>
 #include <cstring>
 #include <filesystem>
 #include <functional>
 #include <thread>
 
 #include "memory/source_error.h"
+#include "support/refused_calls.h"
 #include "support/temporary_folder.h"
 
 namespace brimwork {
@@ -351,42 +346,14 @@ TEST_F(DiskFile, LeavesAFileWithSeveralNamesAsItWasOnAFullDisk) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "disk"), {}), 2);
 }
 
-/// Makes every opening of a file without a name fail, as on file systems that know no such files.
-bool RefuseNamelessFiles() {
-  sock_filter rules[] = {
-      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
-      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[2])),
-      BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, O_TMPFILE & ~O_DIRECTORY, 0, 1),
-      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
-      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
-  };
-  const sock_fprog program{static_cast<unsigned short>(std::size(rules)), rules};
-  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-         prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
-}
-
-/// Runs check in a process that knows no nameless files; its result is the exit code.
-int InProcessWithoutNamelessFiles(const std::function<int()>& check) {
-  const pid_t child = fork();
-  if (child == 0) {
-    if (!RefuseNamelessFiles()) _exit(99);
-    const int probe = open("/tmp", O_TMPFILE | O_RDWR, 0600);
-    _exit(probe >= 0 ? 98 : check());
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST_F(DiskFile, UsesANamedTemporaryFileWhereTheFileSystemKnowsNoOther) {
   const std::string path = Write("a.bas", "old");
-  const int result = InProcessWithoutNamelessFiles([&] {
+  const int result = InProcessWithout({RefusedCall::kOpenNameless}, [&] {
     const std::string error =
         ErrorOf([&] { WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing("new")); });
     return error == "no error" ? 0 : 1;
   });
-  if (result == 99) GTEST_SKIP() << "this kernel filters no system calls";
+  if (result == kNothingRefused) GTEST_SKIP() << "this kernel filters no system calls";
   EXPECT_EQ(result, 0);
   EXPECT_EQ(ReadBytes(path), "new");
   EXPECT_EQ(EntriesInFolder(), 1);
@@ -394,7 +361,7 @@ TEST_F(DiskFile, UsesANamedTemporaryFileWhereTheFileSystemKnowsNoOther) {
 
 TEST_F(DiskFile, RemovesANamedTemporaryFileWhenItFails) {
   const std::string path = Write("a.bas", "old");
-  const int result = InProcessWithoutNamelessFiles([&] {
+  const int result = InProcessWithout({RefusedCall::kOpenNameless}, [&] {
     const std::string error = ErrorOf([&] {
       WriteWholeFile(path, ReadWholeFile(path).snapshot, [&](const ByteSink&) {
         if (EntriesInFolder() != 2) _exit(97);
@@ -403,7 +370,7 @@ TEST_F(DiskFile, RemovesANamedTemporaryFileWhenItFails) {
     });
     return error == path + ": stop" ? 0 : 1;
   });
-  if (result == 99) GTEST_SKIP() << "this kernel filters no system calls";
+  if (result == kNothingRefused) GTEST_SKIP() << "this kernel filters no system calls";
   EXPECT_EQ(result, 0);
   EXPECT_EQ(ReadBytes(path), "old");
   EXPECT_EQ(EntriesInFolder(), 1);
