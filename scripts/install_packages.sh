@@ -4,8 +4,8 @@
 # Touches nothing, and needs neither root nor the network, when all of them are there.
 set -euo pipefail
 
-build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev)
-test=(libgtest-dev libgmock-dev patch git locales)
+build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev libhunspell-dev)
+test=(libgtest-dev libgmock-dev patch git locales hunspell-en-us)
 bench=(libbenchmark-dev time highlight enscript python3-pygments)
 
 Fail() {

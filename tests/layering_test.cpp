@@ -43,16 +43,15 @@ const std::map<std::string, Rooms, std::less<>>& AllowedRooms() {
       {"msgbox", {"environment", "settings", "transform", "ide_windows", "export"}},
       {"core", {"environment", "settings", "transform", "ide_windows", "export", "msgbox"}},
       {"memory", {"environment"}},
+      {"spelling", {"environment", "memory"}},
       {"cli",
-       {"environment", "settings", "transform", "ide_windows", "export", "msgbox", "core",
-        "memory"}},
+       {"environment", "settings", "transform", "ide_windows", "export", "msgbox", "core", "memory",
+        "spelling"}},
   };
   return kAllowed;
 }
 
-std::string RoomOf(std::string_view path) {
-  return std::string(path.substr(0, path.find('/')));
-}
+std::string RoomOf(std::string_view path) { return std::string(path.substr(0, path.find('/'))); }
 
 std::string Describe(const Include& include) {
   return include.file + " includes " + include.target;
@@ -82,9 +81,7 @@ std::vector<std::string> FaultsIn(const std::vector<Include>& includes) {
   return faults;
 }
 
-char ToLowerAscii(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-}
+char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
 bool IsWindowsHeader(std::string_view header) {
   static const std::set<std::string, std::less<>> kWindowsHeaders = {
@@ -150,9 +147,7 @@ class CycleSearch {
   std::set<std::string> done_;
 };
 
-fs::path SourceFolder() {
-  return fs::path(BRIMWORK_SOURCE_DIR) / "src";
-}
+fs::path SourceFolder() { return fs::path(BRIMWORK_SOURCE_DIR) / "src"; }
 
 /// The include that the line holds, if any.
 std::optional<Include> ParseInclude(std::string_view line) {
