@@ -34,6 +34,9 @@ struct Allowance {
   /// Lines that may be put above line 1, all of them or none.
   std::vector<std::string> headerLines;
 
+  /// The insides of literals and the text of comments may change, line by line.
+  bool spellingMayChange = false;
+
   /// A text that may be put into so many lines, once into each; empty: none.
   std::string stamp;
   int stamps = 1;

@@ -53,6 +53,7 @@ void AllowCleanUp(Allowance& allowance, Environment& environment) {
   if (Contains(steps, "Header")) AllowHeader(allowance, environment, header_kind::kStandard);
   if (Contains(steps, "Comment")) AllowFrames(allowance, environment);
   if (Contains(steps, "Error")) AllowHandlers(allowance, environment);
+  if (Contains(steps, "SpellCheck")) allowance.spellingMayChange = true;
 }
 
 }  // namespace
@@ -68,6 +69,7 @@ Allowance AllowanceFor(std::string_view caption, Environment& environment) {
   if (caption == "Standard Header") AllowHeader(allowance, environment, header_kind::kStandard);
   if (caption == "Adapted Header") AllowHeader(allowance, environment, header_kind::kAdapted);
   if (caption == "Insert Time Stamp") allowance.stamp = TimeStampText(environment);
+  if (caption == "Spell Check - Quotes and Comments") allowance.spellingMayChange = true;
   if (caption == "Code Clean Up") AllowCleanUp(allowance, environment);
   return allowance;
 }

@@ -27,11 +27,33 @@ std::vector<CodeToken> TokensWithoutComment(std::string_view line, Continues abo
   return tokens;
 }
 
-bool SameTokensWithoutComment(std::string_view a, std::string_view b, Continues above) {
-  const auto tokensOfA = TokensWithoutComment(a, above);
-  const auto tokensOfB = TokensWithoutComment(b, above);
-  return std::equal(tokensOfA.begin(), tokensOfA.end(), tokensOfB.begin(), tokensOfB.end(),
-                    [](const CodeToken& x, const CodeToken& y) { return x.SameAs(y); });
+bool SameToken(const CodeToken& a, const CodeToken& b) { return a.SameAs(b); }
+
+/// Quotes inside a literal are doubled, so one that is closed has an even number of them.
+bool IsClosedLiteral(std::string_view text) { return std::ranges::count(text, '"') % 2 == 0; }
+
+/// The apostrophe or the Rem that starts a comment; "" for one that continues another.
+std::string_view CommentMark(std::string_view comment, Continues above) {
+  if (above == Continues::kComment) return {};
+  return comment.substr(0, comment.starts_with('\'') ? 1 : 3);
+}
+
+/// Equal, or literals or comments that differ in their text only.
+struct Respelled {
+  Continues above;
+
+  bool operator()(const CodeToken& a, const CodeToken& b) const {
+    if (a.SameAs(b)) return true;
+    if (a.kind != b.kind || a.isGlued != b.isGlued) return false;
+    if (a.kind == TokenKind::kString) return IsClosedLiteral(a.text) && IsClosedLiteral(b.text);
+    return a.kind == TokenKind::kComment &&
+           CommentMark(a.text, above) == CommentMark(b.text, above);
+  }
+};
+
+template <class Same>
+bool SameTokensOf(const std::vector<CodeToken>& a, const std::vector<CodeToken>& b, Same same) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), same);
 }
 
 /// line without its label when that is the line's own number, else line.
@@ -68,10 +90,20 @@ bool LineMatcher::SameCode(std::string_view before, std::string_view after, int 
 
 bool LineMatcher::SameClosingCode(std::string_view before, std::string_view after, int afterLine,
                                   Continues above) const {
-  return AnyLabelling(before, after, afterLine, above,
-                      [above](std::string_view a, std::string_view b) {
-                        return SameTokensWithoutComment(a, b, above);
-                      });
+  return AnyLabelling(before, after, afterLine, above, [&](std::string_view a, std::string_view b) {
+    const auto tokensOfA = TokensWithoutComment(a, above);
+    const auto tokensOfB = TokensWithoutComment(b, above);
+    return allowance_.spellingMayChange ? SameTokensOf(tokensOfA, tokensOfB, Respelled{above})
+                                        : SameTokensOf(tokensOfA, tokensOfB, SameToken);
+  });
+}
+
+bool LineMatcher::SameCodeRespelled(std::string_view before, std::string_view after, int afterLine,
+                                    Continues above) const {
+  return AnyLabelling(
+      before, after, afterLine, above, [above](std::string_view a, std::string_view b) {
+        return SameTokensOf(TokensOf(a, above), TokensOf(b, above), Respelled{above});
+      });
 }
 
 bool LineMatcher::IsStamped(std::string_view before, std::string_view after) const {

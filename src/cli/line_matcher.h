@@ -30,6 +30,10 @@ class LineMatcher {
   bool SameClosingCode(std::string_view before, std::string_view after, int afterLine,
                        Continues above) const;
 
+  /// The same as SameCode for a line in which literals and the comment may be spelled otherwise.
+  bool SameCodeRespelled(std::string_view before, std::string_view after, int afterLine,
+                         Continues above) const;
+
   /// True when after is before with the stamp put somewhere into it.
   bool IsStamped(std::string_view before, std::string_view after) const;
 

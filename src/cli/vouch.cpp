@@ -28,9 +28,7 @@ class Walker {
     while (!fault_) {
       TakePlainPairs();
       if (!HasBefore() && !HasAfter()) break;
-      if (!TakePair() && !fault_ && !TakeInsertion() && !TakeRemoval()) {
-        return DifferenceAt(beforeLine_, afterLine_);
-      }
+      if (!TakeNext() && !fault_) return DifferenceAt(beforeLine_, afterLine_);
     }
     if (!fault_ && behindBlock_) return DifferenceAt(gapBefore_, gapAfter_);
     return fault_;
@@ -71,11 +69,28 @@ class Walker {
     return !line.empty() && IsOneOf(line.back(), "_ \t") && AsksForContinuation(line);
   }
 
+  /// Any comment may be another one respelled, so an inserted one must be looked for first.
+  bool TakeNext() {
+    return TakePair() || (!fault_ && TakeInsertion()) || (!fault_ && TakeRespelledPair()) ||
+           (!fault_ && TakeRemoval());
+  }
+
   bool TakePair() {
     if (!HasBefore() || !HasAfter()) return false;
     const std::string_view before = before_.Line(beforeLine_);
     const std::string_view after = after_.Line(afterLine_);
-    if (!EqualTrimmed(before, after) && !IsChangedAsAllowed(before, after)) return false;
+    return (EqualTrimmed(before, after) || IsChangedAsAllowed(before, after)) && Pair(before);
+  }
+
+  bool TakeRespelledPair() {
+    if (!allowance_.spellingMayChange || !HasBefore() || !HasAfter()) return false;
+    const std::string_view before = before_.Line(beforeLine_);
+    const std::string_view after = after_.Line(afterLine_);
+    return AsksForContinuation(before) == AsksForContinuation(after) &&
+           matcher_.SameCodeRespelled(before, after, afterLine_, above_) && Pair(before);
+  }
+
+  bool Pair(std::string_view before) {
     if (inGap_ && !ClosesGap()) return false;
     if (allowance_.handler) NoteClosing(before);
     above_ = BelowOf(before);
