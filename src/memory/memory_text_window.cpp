@@ -1,7 +1,5 @@
 #include "memory/memory_text_window.h"
 
-#include <algorithm>
-
 #include "environment/text.h"
 
 namespace brimwork {
@@ -13,8 +11,8 @@ void MemoryTextWindow::SetText(std::string_view text) {
 }
 
 void MemoryTextWindow::Select(int start, int length) {
-  start_ = ByteOffset(text_, std::max(start, 0));
-  length_ = ByteOffset(std::string_view(text_).substr(start_), std::max(length, 0));
+  start_ = ByteOffset(text_, start);
+  length_ = ByteOffset(std::string_view(text_).substr(start_), length);
 }
 
 std::string MemoryTextWindow::SelectedText() const { return text_.substr(start_, length_); }

@@ -16,8 +16,8 @@ class MemoryTextWindow : public KeyTarget {
   /// The lines end in CR LF, whatever they ended in; the caret stands behind the text.
   void SetText(std::string_view text);
 
-  /// Counts from 0 in characters, a line's end as two; a place behind the text is drawn back to its
-  /// end. length 0 puts the caret there.
+  /// Counts from 0 in characters, a line's end as two; what lies outside the text is drawn back
+  /// into it. length 0 puts the caret there.
   void Select(int start, int length);
   std::string SelectedText() const;
 
