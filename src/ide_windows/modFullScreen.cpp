@@ -124,7 +124,7 @@ void RestoreCommandBars(Environment& environment) {
 // The state between two uses.
 
 bool AreWindowsToggled(Environment& environment) {
-  return EqualNames(GetCommandSetting(environment, setting::kAreWindowsToggled), "True");
+  return GetCommandSetting(environment, setting::kAreWindowsToggled) == "True";
 }
 
 void SaveAreWindowsToggled(Environment& environment, bool areToggled) {

@@ -137,14 +137,9 @@ TEST_F(FullScreenStoredValues, NamesThatNobodyBearsAreDropped) {
   EXPECT_EQ(Stored("ToggledMenus"), "");
 }
 
-TEST_F(FullScreenStoredValues, TrueMeansToggledInAnyLetterCase) {
-  for (const char* value : {"True", "true", "TRUE"}) {
-    EXPECT_TRUE(IsTakenForToggled(value)) << value;
-  }
-}
-
-TEST_F(FullScreenStoredValues, AnyOtherTextMeansNotToggled) {
-  for (const char* value : {"False", "", "1", "Yes", "Truer", " True"}) {
+TEST_F(FullScreenStoredValues, OnlyTheTextTrueMeansToggled) {
+  EXPECT_TRUE(IsTakenForToggled("True"));
+  for (const char* value : {"False", "", "1", "Yes", "true", "TRUE", "Truer", " True"}) {
     EXPECT_FALSE(IsTakenForToggled(value)) << '"' << value << '"';
     EXPECT_EQ(Stored("AreWindowsToggled"), "True") << '"' << value << '"';
   }
