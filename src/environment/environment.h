@@ -3,6 +3,7 @@
 #pragma once
 
 #include "environment/desktop.h"
+#include "environment/form_host.h"
 #include "environment/native_windows.h"
 #include "environment/registry.h"
 #include "environment/rich_text_box.h"
@@ -28,6 +29,7 @@ struct Environment {
   RichTextBoxes& richTextBoxes;
   TextFiles& textFiles;
   WordProcessors& wordProcessors;
+  FormHost& formHost;
 };
 
 }  // namespace brimwork

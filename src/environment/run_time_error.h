@@ -15,8 +15,10 @@ inline constexpr int kTypeMismatch = 13;
 inline constexpr int kProcedureNotDefined = 35;
 inline constexpr int kPathFileAccess = 75;
 inline constexpr int kObjectNotSet = 91;
+inline constexpr int kNoSuchArrayElement = 340;
 inline constexpr int kCannotCreateObject = 429;
 inline constexpr int kInvalidFileFormat = 32000;
+inline constexpr int kElementNotFound = 35601;
 }  // namespace error_number
 
 class RunTimeError : public std::runtime_error {

@@ -41,7 +41,8 @@ Environment MemoryEnvironment::Parts(const Replacements& others) {
           .nativeWindows = nativeWindows,
           .richTextBoxes = richTextBoxes,
           .textFiles = textFiles,
-          .wordProcessors = wordProcessors};
+          .wordProcessors = wordProcessors,
+          .formHost = formHost};
 }
 
 }  // namespace brimwork

@@ -10,6 +10,7 @@
 #include "memory/memory_app.h"
 #include "memory/memory_clipboard.h"
 #include "memory/memory_dialogs.h"
+#include "memory/memory_form_host.h"
 #include "memory/memory_keyboard.h"
 #include "memory/memory_message_loop.h"
 #include "memory/memory_native_windows.h"
@@ -60,6 +61,7 @@ class MemoryEnvironment {
   MemoryTextFiles textFiles;
   MemoryRichTextBoxes richTextBoxes{textFiles};
   MemoryWordProcessors wordProcessors{clipboard};
+  MemoryFormHost formHost{nativeWindows};
 };
 
 }  // namespace brimwork

@@ -6,6 +6,7 @@
 
 #include "support/faulty_calls.h"
 #include "support/faulty_desktop.h"
+#include "support/faulty_form_host.h"
 #include "support/faulty_rich_text_box.h"
 #include "support/faulty_tools.h"
 #include "support/faulty_vbe.h"
@@ -29,7 +30,8 @@ struct FaultyEnvironment::Decorators {
         nativeWindows(inner.nativeWindows, calls),
         richTextBoxes(inner.richTextBoxes, calls),
         textFiles(inner.textFiles, calls),
-        wordProcessors(inner.wordProcessors, calls) {}
+        wordProcessors(inner.wordProcessors, calls),
+        formHost(inner.formHost, calls) {}
 
   FaultyCalls calls;
   FaultyVbe vbe;
@@ -47,6 +49,7 @@ struct FaultyEnvironment::Decorators {
   FaultyRichTextBoxes richTextBoxes;
   FaultyTextFiles textFiles;
   FaultyWordProcessors wordProcessors;
+  FaultyFormHost formHost;
 };
 
 FaultyEnvironment::FaultyEnvironment(const Environment& inner, Fault fault)
@@ -70,7 +73,8 @@ Environment FaultyEnvironment::Parts() {
           .nativeWindows = all.nativeWindows,
           .richTextBoxes = all.richTextBoxes,
           .textFiles = all.textFiles,
-          .wordProcessors = all.wordProcessors};
+          .wordProcessors = all.wordProcessors,
+          .formHost = all.formHost};
 }
 
 const std::vector<std::string_view>& FaultyEnvironment::Operations() const {
