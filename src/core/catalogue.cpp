@@ -12,10 +12,10 @@ constexpr bool kNoHourglass = false;
 constexpr bool kGroup = true;
 constexpr bool kNoGroup = false;
 
-constexpr auto kMenu = Place::kAddInsMenu;
-constexpr auto kPopup = Place::kCodeWindowPopup;
-constexpr auto kImmediate = Place::kImmediateWindowPopup;
-constexpr auto kBar = Place::kToolbar;
+constexpr auto kMenu = EntryPlace::kAddInsMenu;
+constexpr auto kPopup = EntryPlace::kCodeWindowPopup;
+constexpr auto kImmediate = EntryPlace::kImmediateWindowPopup;
+constexpr auto kBar = EntryPlace::kToolbar;
 
 constexpr std::string_view kAddHeader = "Add Header";
 constexpr std::string_view kExport = "Export Code";

@@ -9,13 +9,13 @@
 namespace brimwork {
 
 /// The command bar that an entry is built on.
-enum class Place { kAddInsMenu, kCodeWindowPopup, kImmediateWindowPopup, kToolbar };
+enum class EntryPlace { kAddInsMenu, kCodeWindowPopup, kImmediateWindowPopup, kToolbar };
 
 struct CatalogueEntry {
   int handler;               // number of its click handler; numbers once used are not given again
   std::string_view caption;  // compared exactly
   std::string_view faceKey;  // selects the button's picture; "" for an entry without one
-  Place place;
+  EntryPlace place;
   std::string_view submenu;  // caption of the submenu that it stands in, "" for none
   bool wholeModule;          // acts on every procedure instead of the one at the caret
   bool hourglass;            // its handler shows the hourglass while the command runs

@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 
 /// "number caption (face)" of the entries in a submenu of a place, in building order.
-std::vector<std::string> EntriesAt(Place place, std::string_view submenu) {
+std::vector<std::string> EntriesAt(EntryPlace place, std::string_view submenu) {
   std::vector<std::string> entries;
   for (const CatalogueEntry& entry : Catalogue()) {
     if (entry.place != place || entry.submenu != submenu) continue;
@@ -36,7 +36,7 @@ using Captions = std::set<std::string>;
 
 TEST(Catalogue, TheAddInsMenuHasElevenCommandsAtItsTop) {
   EXPECT_THAT(
-      EntriesAt(Place::kAddInsMenu, ""),
+      EntriesAt(EntryPlace::kAddInsMenu, ""),
       ElementsAre("1 Comment Procedure (COMMENT)", "2 Comment All Procedures (COMMENTALL)",
                   "3 Insert Error Handling (ERROR)", "4 Insert Time Stamp (TIMESTAMP)",
                   "5 Indent All Procedures (INDENT)", "6 Code Clean Up (CLEANUP)",
@@ -47,46 +47,46 @@ TEST(Catalogue, TheAddInsMenuHasElevenCommandsAtItsTop) {
 
 TEST(Catalogue, TheAddInsMenuHasFourSubmenus) {
   EXPECT_THAT(
-      EntriesAt(Place::kAddInsMenu, "Add Header"),
+      EntriesAt(EntryPlace::kAddInsMenu, "Add Header"),
       ElementsAre("21 Standard Header (STANDARDHEADER)", "22 Adapted Header (ADAPTEDHEADER)"));
-  EXPECT_THAT(EntriesAt(Place::kAddInsMenu, "Export Code"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kAddInsMenu, "Export Code"),
               ElementsAre("17 Text (TEXT)", "18 RTF (RTF)", "19 Web Page (HTM)",
                           "20 Quick Export (QUICKEXPORT)"));
-  EXPECT_THAT(EntriesAt(Place::kAddInsMenu, "Line Number"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kAddInsMenu, "Line Number"),
               ElementsAre("53 Add Line Numbers (ADDLINENUMBERS)",
                           "54 Remove Line Numbers (REMOVELINENUMBERS)"));
-  EXPECT_THAT(EntriesAt(Place::kAddInsMenu, "Help"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kAddInsMenu, "Help"),
               ElementsAre("60 Contents (HELP)", "61 Index ()", "62 Configure Brimwork ()",
                           "63 About Brimwork ()", "64 Vantrel Web Site (WEBSITE)"));
 }
 
 TEST(Catalogue, TheCodeWindowsPopupHasFiveCommandsAndTwoSubmenus) {
-  EXPECT_THAT(EntriesAt(Place::kCodeWindowPopup, ""),
+  EXPECT_THAT(EntriesAt(EntryPlace::kCodeWindowPopup, ""),
               ElementsAre("23 Comment Procedure (COMMENT)", "24 Insert Error Handling (ERROR)",
                           "25 Insert Time Stamp (TIMESTAMP)", "26 Clear Immediate Window (CLEAR)",
                           "27 Full Screen (FULLSCREEN)"));
-  EXPECT_THAT(EntriesAt(Place::kCodeWindowPopup, "Export Selected Code"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kCodeWindowPopup, "Export Selected Code"),
               ElementsAre("28 Text (TEXT)", "29 RTF (RTF)", "30 Web Page (HTM)",
                           "31 Quick Export (QUICKEXPORT)"));
-  EXPECT_THAT(EntriesAt(Place::kCodeWindowPopup, "Line Number"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kCodeWindowPopup, "Line Number"),
               ElementsAre("32 Add Line Numbers (ADDLINENUMBERS)",
                           "33 Remove Line Numbers (REMOVELINENUMBERS)"));
 }
 
 TEST(Catalogue, TheImmediateWindowsPopupHasOneCommand) {
-  EXPECT_THAT(EntriesAt(Place::kImmediateWindowPopup, ""),
+  EXPECT_THAT(EntriesAt(EntryPlace::kImmediateWindowPopup, ""),
               ElementsAre("34 Clear Immediate Window (CLEAR)"));
 }
 
 TEST(Catalogue, TheToolbarHasTwoSubmenusAndElevenCommands) {
-  EXPECT_THAT(EntriesAt(Place::kToolbar, "Export Code"),
+  EXPECT_THAT(EntriesAt(EntryPlace::kToolbar, "Export Code"),
               ElementsAre("36 Text (TEXT)", "37 RTF (RTF)", "38 Web Page (HTM)",
                           "39 Quick Export (QUICKEXPORT)"));
   EXPECT_THAT(
-      EntriesAt(Place::kToolbar, "Add Header"),
+      EntriesAt(EntryPlace::kToolbar, "Add Header"),
       ElementsAre("40 Standard Header (STANDARDHEADER)", "41 Adapted Header (ADAPTEDHEADER)"));
   EXPECT_THAT(
-      EntriesAt(Place::kToolbar, ""),
+      EntriesAt(EntryPlace::kToolbar, ""),
       ElementsAre("42 Comment Procedure (COMMENT)", "43 Comment All Procedures (COMMENTALL)",
                   "44 Insert Error Handling (ERROR)", "45 Insert Time Stamp (TIMESTAMP)",
                   "46 Indent All Procedures (INDENT)", "47 Code Clean Up (CLEANUP)",
@@ -118,7 +118,7 @@ TEST(Catalogue, EachHandlerNumberIsGivenOnceBetweenOneAndSixtyFive) {
 }
 
 TEST(Catalogue, TheMenuAndTheToolbarActOnTheWholeModuleWithTheseCaptions) {
-  for (const Place place : {Place::kAddInsMenu, Place::kToolbar}) {
+  for (const EntryPlace place : {EntryPlace::kAddInsMenu, EntryPlace::kToolbar}) {
     Captions expected{"Comment All Procedures",
                       "Indent All Procedures",
                       "Code Clean Up",
@@ -126,7 +126,7 @@ TEST(Catalogue, TheMenuAndTheToolbarActOnTheWholeModuleWithTheseCaptions) {
                       "RTF",
                       "Web Page",
                       "Quick Export"};
-    if (place == Place::kAddInsMenu) {
+    if (place == EntryPlace::kAddInsMenu) {
       expected.insert("Add Line Numbers");
       expected.insert("Remove Line Numbers");
     }
@@ -139,8 +139,8 @@ TEST(Catalogue, TheMenuAndTheToolbarActOnTheWholeModuleWithTheseCaptions) {
 
 TEST(Catalogue, ThePopupsNeverActOnTheWholeModule) {
   EXPECT_EQ(CaptionsWhere([](const CatalogueEntry& entry) {
-              return (entry.place == Place::kCodeWindowPopup ||
-                      entry.place == Place::kImmediateWindowPopup) &&
+              return (entry.place == EntryPlace::kCodeWindowPopup ||
+                      entry.place == EntryPlace::kImmediateWindowPopup) &&
                      entry.wholeModule;
             }),
             Captions());
