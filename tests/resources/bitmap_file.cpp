@@ -34,10 +34,10 @@ void CheckHeader(std::string_view bytes) {
 }
 
 /// Rows stand from the bottom up, each filled to a multiple of four bytes.
-Picture PixelsOf(std::string_view bytes) {
-  Picture picture{static_cast<int>(NumberAt(bytes, kWidthAt, 4)),
-                  static_cast<int>(NumberAt(bytes, kHeightAt, 4)),
-                  {}};
+PixelPicture PixelsOf(std::string_view bytes) {
+  PixelPicture picture{static_cast<int>(NumberAt(bytes, kWidthAt, 4)),
+                       static_cast<int>(NumberAt(bytes, kHeightAt, 4)),
+                       {}};
   const std::size_t start = NumberAt(bytes, kPixelsStartAt, 4);
   const std::size_t width = static_cast<std::size_t>(picture.width);
   const std::size_t height = static_cast<std::size_t>(picture.height);
@@ -53,7 +53,7 @@ Picture PixelsOf(std::string_view bytes) {
 
 }  // namespace
 
-Picture ReadBitmap(const std::filesystem::path& path) {
+PixelPicture ReadBitmap(const std::filesystem::path& path) {
   const std::string bytes = ReadBytes(path);
   try {
     CheckHeader(bytes);

@@ -9,6 +9,6 @@ namespace brimwork {
 
 /// Reads an uncompressed bitmap with 24 bits per pixel; throws std::runtime_error, which names the
 /// file, for any other.
-Picture ReadBitmap(const std::filesystem::path& path);
+PixelPicture ReadBitmap(const std::filesystem::path& path);
 
 }  // namespace brimwork

@@ -60,7 +60,7 @@ fs::path FacePath(const std::string& name, const std::string& ending) {
   return ResourcePath("faces/" + name + ending);
 }
 
-using Faces = std::map<std::string, Picture>;
+using Faces = std::map<std::string, PixelPicture>;
 
 Faces AllFaces() {
   Faces faces;
@@ -82,7 +82,7 @@ double Contrast(Colour one, Colour other) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-auto CountClearPixels(const Picture& face, Colour background) {
+auto CountClearPixels(const PixelPicture& face, Colour background) {
   return std::count_if(face.pixels.begin(), face.pixels.end(), [background](Colour colour) {
     return colour != kTransparent && Contrast(colour, background) >= kClearContrast;
   });

@@ -24,13 +24,13 @@ std::set<Colour> Palette() {
   return colours;
 }
 
-std::set<Colour> ColoursOf(const Picture& picture) {
+std::set<Colour> ColoursOf(const PixelPicture& picture) {
   std::set<Colour> colours(picture.pixels.begin(), picture.pixels.end());
   colours.erase(kTransparent);
   return colours;
 }
 
-int CountDifferences(const Picture& one, const Picture& other) {
+int CountDifferences(const PixelPicture& one, const PixelPicture& other) {
   if (one.width != other.width || one.height != other.height) {
     throw std::runtime_error("pictures of two sizes cannot be compared");
   }

@@ -22,7 +22,7 @@ using testing::IsSubsetOf;
 constexpr int kIconButtonSize = 32;
 constexpr Colour kWhite = 0xFFFFFF;
 
-using IconButtons = std::map<std::string, Picture>;
+using IconButtons = std::map<std::string, PixelPicture>;
 
 IconButtons AllIconButtons() {
   IconButtons pictures;
@@ -77,7 +77,7 @@ TEST(IconButtons, DifferInAQuarterOfTheirPixels) {
 }
 
 TEST(Logo, StandsOnWhiteInItsBitmap) {
-  const Picture logo = ReadBitmap(ResourcePath("splash/logo.bmp"));
+  const PixelPicture logo = ReadBitmap(ResourcePath("splash/logo.bmp"));
   EXPECT_EQ(std::pair(logo.width, logo.height), std::pair(320, 120));
   for (const auto& [x, y] : {std::pair(0, 0), {319, 0}, {0, 119}, {319, 119}}) {
     EXPECT_EQ(logo.At(x, y), kWhite) << x << ", " << y;
@@ -97,7 +97,7 @@ TEST(ApplicationIcon, HasItsFourSizes) {
 TEST(ApplicationIcon, IsDrawnPixelByPixelInItsTwoSmallSizes) {
   for (const int size : {16, 32}) {
     const std::string name = "icon/brimwork" + std::to_string(size) + ".svg";
-    const Picture picture = DrawPixels(ReadBytes(ResourcePath(name)));
+    const PixelPicture picture = DrawPixels(ReadBytes(ResourcePath(name)));
     EXPECT_EQ(std::pair(picture.width, picture.height), std::pair(size, size));
   }
 }

@@ -28,10 +28,10 @@ std::string Attribute(std::string_view element, std::string_view name) {
   return std::string(element.substr(start, element.find('"', start) - start));
 }
 
-Picture EmptyPicture(std::string_view element) {
+PixelPicture EmptyPicture(std::string_view element) {
   if (Attribute(element, "shape-rendering") != "crispEdges") Refuse("its edges are not crisp");
   const std::string box = Attribute(element, "viewBox");
-  Picture picture;
+  PixelPicture picture;
   int end = 0;
   const int numbers =
       std::sscanf(box.c_str(), "0 0 %d %d%n", &picture.width, &picture.height, &end);
@@ -52,7 +52,7 @@ Rectangle TakeRectangle(std::string& data) {
   return rectangle;
 }
 
-void FillRectangle(Picture& picture, const Rectangle& r, Colour colour) {
+void FillRectangle(PixelPicture& picture, const Rectangle& r, Colour colour) {
   if (r.x < 0 || r.y < 0 || r.x + r.width > picture.width || r.y + r.height > picture.height) {
     Refuse("a rectangle outside the picture");
   }
@@ -61,7 +61,7 @@ void FillRectangle(Picture& picture, const Rectangle& r, Colour colour) {
   }
 }
 
-void FillPath(Picture& picture, std::string_view element) {
+void FillPath(PixelPicture& picture, std::string_view element) {
   const std::string fill = Attribute(element, "fill");
   unsigned colour = 0;
   if (std::sscanf(fill.c_str(), "#%6x", &colour) != 1) Refuse("the fill " + fill);
@@ -69,7 +69,7 @@ void FillPath(Picture& picture, std::string_view element) {
   while (!data.empty()) FillRectangle(picture, TakeRectangle(data), colour);
 }
 
-void DrawElement(Picture& picture, std::string_view element) {
+void DrawElement(PixelPicture& picture, std::string_view element) {
   if (element.starts_with("svg ")) {
     picture = EmptyPicture(element);
   } else if (element.starts_with("path ")) {
@@ -81,8 +81,8 @@ void DrawElement(Picture& picture, std::string_view element) {
 
 }  // namespace
 
-Picture DrawPixels(std::string_view svg) {
-  Picture picture;
+PixelPicture DrawPixels(std::string_view svg) {
+  PixelPicture picture;
   for (std::size_t at = svg.find('<'); at != std::string_view::npos; at = svg.find('<', at)) {
     const std::size_t end = svg.find('>', at);
     if (end == std::string_view::npos) Refuse("an element without an end");

@@ -10,6 +10,6 @@ namespace brimwork {
 
 /// Draws the text of an SVG file; what it leaves free is transparent. Throws std::runtime_error
 /// for anything that could give a half-covered pixel or stand outside the picture.
-Picture DrawPixels(std::string_view svg);
+PixelPicture DrawPixels(std::string_view svg);
 
 }  // namespace brimwork

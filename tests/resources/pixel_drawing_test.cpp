@@ -18,12 +18,12 @@ std::string Drawing(const std::string& elements) {
 }
 
 TEST(PixelDrawing, FillsRectanglesInTheOrderInWhichTheyStand) {
-  const Picture picture =
+  const PixelPicture picture =
       DrawPixels(Drawing("<title>Two</title>\n"
                          "<path fill=\"#FF0000\" d=\"M0 0h2v2h-2z\"/>\n"
                          "<path fill=\"#000080\" d=\"M1 1h1v1h-1z\n"
                          "  M2 0h1v1h-1z\"/>\n"));
-  const Picture expected{3, 2, {kRed, kRed, kNavy, kRed, kNavy, kTransparent}};
+  const PixelPicture expected{3, 2, {kRed, kRed, kNavy, kRed, kNavy, kTransparent}};
   EXPECT_EQ(picture, expected);
 }
 
