@@ -11,6 +11,8 @@
 #include "cli/command_request.h"
 #include "cli/commands_list.h"
 #include "cli/console.h"
+#include "cli/export_files.h"
+#include "cli/export_options.h"
 #include "cli/near_miss.h"
 #include "cli/run_files.h"
 #include "cli/settings_command.h"
@@ -28,6 +30,7 @@ constexpr const char* kExamples =
     "  brimwork cleanup --write Shop.vbp        clean up every module of a project\n"
     "  brimwork indent --check src/             exit with 1 when a file would change\n"
     "  brimwork number --diff Form1.frm         show what would change\n"
+    "  brimwork export --format html Form1.frm  print the code as a web page\n"
     "  brimwork run \"Comment Procedure\" --line 40 Module1.bas\n"
     "\n"
     "Exit codes: 0 done, 1 --check found something to change, 2 an error.";
@@ -83,6 +86,7 @@ constexpr SubcommandText kFriendlyCommands[] = {
 /// Everything that one parse of the command line leaves behind.
 struct ParsedLine {
   AppOptions options;
+  ExportOptions exporting;
   std::string caption;
   std::string settingKey;
   std::string settingValue;
@@ -116,6 +120,19 @@ void AddFriendlyCommand(CLI::App& app, ParsedLine& line, const SubcommandText& t
     AddPlaceOptions(*command, line.options);
   }
   command->footer(text.examples);
+}
+
+void AddExport(CLI::App& app, ParsedLine& line) {
+  CLI::App* command = app.add_subcommand("export", "Export code as text, rich text or web page");
+  AddExportOptions(*command, line.options, line.exporting);
+  command->footer(
+      "Examples:\n"
+      "  brimwork export --format html --keywords builtin Module1.bas > Module1.htm\n"
+      "  brimwork export --format rtf --lines 10:25 -o part.rtf Module1.bas\n"
+      "  brimwork export --format html -o pages/ Shop.vbp     with an index page\n"
+      "  brimwork export --quick Module1.bas\n"
+      "\n"
+      "Without --keywords, the words of the setting KeyWordList are coloured.");
 }
 
 void AddSettings(CLI::App& app, ParsedLine& line) {
@@ -152,6 +169,7 @@ void DefineCommandLine(CLI::App& app, ParsedLine& line) {
   app.get_formatter()->column_width(kHelpColumn);
   AddRun(app, line);
   for (const SubcommandText& text : kFriendlyCommands) AddFriendlyCommand(app, line, text);
+  AddExport(app, line);
   app.add_subcommand("commands", "List every command of the catalogue")
       ->footer("Example: brimwork commands");
   AddSettings(app, line);
@@ -181,6 +199,9 @@ int RunSubcommand(const CLI::App& app, const ParsedLine& line, Console& console)
   if (name == "settings") {
     RunSettings(subcommand, line, console);
     return exit_code::kDone;
+  }
+  if (name == "export") {
+    return ExportFiles(MakeExportRequest(line.options, line.exporting), console);
   }
   return RunFiles(MakeRunOptions(CaptionAskedFor(name, line), line.options), console);
 }

@@ -88,18 +88,12 @@ void AddModes(CLI::App& command, AppOptions& options) {
 }
 
 void AddRuleOptions(CLI::App& command, AppOptions& options) {
-  command.add_option("--set", options.settings, "A setting for this run only (repeatable)")
-      ->option_text("KEY=VALUE")
-      ->allow_extra_args(false);
+  AddSettingOption(command, options);
   command.add_option("--tab-width", options.tabWidth, "Blanks of one indent, 0 to 32 (4)")
       ->check(CLI::Range(0, kWidestTab))
       ->option_text("N");
   command.add_option("--now", options.now, "Time of stamps, as 2026-11-21T10:20:30")
       ->option_text("TIME");
-  command.add_option("--encoding", options.encoding, "Of files without byte-order mark (cp1252)")
-      ->option_text("NAME");
-  command.add_option("--stdin-filename", options.stdinFileName, "The path that - stands for")
-      ->option_text("PATH");
 }
 
 void AddReportOptions(CLI::App& command, AppOptions& options) {
@@ -120,9 +114,23 @@ void AddReportOptions(CLI::App& command, AppOptions& options) {
 
 }  // namespace
 
-void AddRunOptions(CLI::App& command, AppOptions& options) {
+void AddInputOptions(CLI::App& command, AppOptions& options) {
   command.add_option("files", options.paths, "Files, folders, .vbp, .vbg, or - (standard input)")
       ->option_text("FILE...");
+  command.add_option("--encoding", options.encoding, "Of files without byte-order mark (cp1252)")
+      ->option_text("NAME");
+  command.add_option("--stdin-filename", options.stdinFileName, "The path that - stands for")
+      ->option_text("PATH");
+}
+
+void AddSettingOption(CLI::App& command, AppOptions& options) {
+  command.add_option("--set", options.settings, "A setting for this run only (repeatable)")
+      ->option_text("KEY=VALUE")
+      ->allow_extra_args(false);
+}
+
+void AddRunOptions(CLI::App& command, AppOptions& options) {
+  AddInputOptions(command, options);
   AddModes(command, options);
   AddRuleOptions(command, options);
   AddReportOptions(command, options);
@@ -146,9 +154,8 @@ void AddPlaceOptions(CLI::App& command, AppOptions& options) {
       ->group("Place");
 }
 
-RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options) {
+RunOptions MakeCommonOptions(const AppOptions& options) {
   RunOptions run;
-  run.command = MakeCommandRequest(caption, options.place);
   run.write = options.write;
   run.check = options.check;
   run.diff = options.diff;
@@ -162,6 +169,13 @@ RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options)
   run.paths = options.paths;
   run.stdinFileName = options.stdinFileName;
   run.jobs = JobsOf(options);
+  return run;
+}
+
+RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options) {
+  const CommandRequest command = MakeCommandRequest(caption, options.place);
+  RunOptions run = MakeCommonOptions(options);
+  run.command = command;
   return run;
 }
 

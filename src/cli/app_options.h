@@ -35,7 +35,13 @@ struct AppOptions {
   PlaceRequest place;
 };
 
-/// The options that every command on files takes.
+/// What is read: the files and how they are encoded.
+void AddInputOptions(CLI::App& command, AppOptions& options);
+
+/// --set.
+void AddSettingOption(CLI::App& command, AppOptions& options);
+
+/// The options that every command that changes files takes.
 void AddRunOptions(CLI::App& command, AppOptions& options);
 
 /// --line and --column.
@@ -44,8 +50,11 @@ void AddLineOptions(CLI::App& command, AppOptions& options);
 /// --line, --column and --procedure.
 void AddPlaceOptions(CLI::App& command, AppOptions& options);
 
-/// Reads the stored settings and the clock where the options leave them to the user's own. Throws
-/// UsageError, DateTimeError and SettingsFileError.
+/// All but the command. Reads the stored settings and the clock where the options leave them to the
+/// user's own. Throws UsageError, DateTimeError and SettingsFileError.
+RunOptions MakeCommonOptions(const AppOptions& options);
+
+/// The same with the command of that caption.
 RunOptions MakeRunOptions(const std::string& caption, const AppOptions& options);
 
 }  // namespace brimwork

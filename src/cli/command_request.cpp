@@ -1,6 +1,7 @@
 #include "cli/command_request.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "cli/near_miss.h"
@@ -26,7 +27,16 @@ constexpr FriendlyName kFriendlyNames[] = {
     {"header", "Standard Header"},
     {"header --adapted", "Adapted Header"},
     {"timestamp", "Insert Time Stamp"},
+    {"spell", "Spell Check - Quotes and Comments"},
+    {"export --format text", "Text"},
+    {"export --format rtf", "RTF"},
+    {"export --format html", "Web Page"},
+    {"export --quick", "Quick Export"},
 };
+
+/// What these change are windows of the editor, and no module's text.
+constexpr std::string_view kWindowCommands[] = {"Full Screen", "Clear Immediate Window",
+                                                "Close Windows"};
 
 bool IsInCatalogue(std::string_view caption) {
   return std::ranges::any_of(Catalogue(),
@@ -49,6 +59,19 @@ bool NeedsPlace(std::string_view caption) {
   return caption != "Standard Header" && caption != "Adapted Header";
 }
 
+/// Refuses the commands that leave no module behind: those that make another file of it, and those
+/// on windows.
+void CheckResult(std::string_view caption) {
+  if (IsExport(caption)) {
+    throw UsageError(Quoted(caption) + " makes another file of the module: run brimwork " +
+                     std::string(CommandNameOf(caption)));
+  }
+  if (ActsOnWindows(caption)) {
+    throw UsageError(Quoted(caption) +
+                     " acts on the environment's windows, and the command line has none");
+  }
+}
+
 void CheckPlace(const PlaceRequest& place) {
   if (place.line && place.procedure) {
     throw UsageError("--line and --procedure name one place twice: give one of them");
@@ -64,6 +87,7 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
     throw UsageError("a time stamp goes to one line: give --line N");
   }
   if (!IsInCatalogue(caption)) throw UsageError(UnknownCaption(caption));
+  CheckResult(caption);
   const bool onModule = HasCommand(caption, true);
   const bool atPlace = HasCommand(caption, false);
   if (!onModule && !atPlace) {
@@ -79,6 +103,12 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
   }
   const PlaceRequest where = NeedsPlace(caption) ? place : PlaceRequest{};
   return {std::string(caption), where, !place.IsGiven() && onModule};
+}
+
+bool IsExport(std::string_view caption) { return CommandNameOf(caption).starts_with("export "); }
+
+bool ActsOnWindows(std::string_view caption) {
+  return std::ranges::find(kWindowCommands, caption) != std::end(kWindowCommands);
 }
 
 std::string_view CaptionOf(std::string_view commandName) {

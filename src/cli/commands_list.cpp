@@ -26,6 +26,8 @@ std::string_view WorksOn(std::string_view caption) {
   const bool atPlace = HasCommand(caption, false);
   if (caption == "Standard Header" || caption == "Adapted Header") return "module";
   if (caption == "Insert Time Stamp") return "line";
+  if (IsExport(caption)) return "module or lines";
+  if (ActsOnWindows(caption)) return "in the editor only";
   if (onModule && atPlace) return "module or procedure";
   if (onModule) return "module";
   return atPlace ? "procedure" : "in the editor only";

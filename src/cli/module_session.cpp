@@ -21,7 +21,8 @@ ModuleSession::ModuleSession(const RunOptions& options, SourceFile& file,
       clock_(options.now, options.dateLocale),
       pane_(memory_.Open(file.ModuleName(), file.TakeText())),
       module_(std::static_pointer_cast<MemoryCodeModule>(pane_->Module())),
-      addIn_(memory_.Parts({.settingsArea = &settings_, .clock = &clock_})) {
+      addIn_(memory_.Parts(
+          {.settingsArea = &settings_, .shellFolders = &shellFolders_, .clock = &clock_})) {
   memory_.vbe.SetProject(std::make_shared<MemoryProject>(std::move(projectName)));
   if (options.tabWidth) {
     memory_.registry.SetDword(kHiveCurrentUser, kEditorOptions, "TabWidth",
@@ -35,6 +36,10 @@ int ModuleSession::Run(const CommandRequest& command) {
   if (command.place.line) PlaceCaret(file_.ModuleLineOf(*command.place.line), command);
   ButtonClicked(addIn_, command.caption, command.wholeModule);
   return 1;
+}
+
+void ModuleSession::SelectLines(int first, int last) {
+  pane_->SetSelection({first, 1, last, CharacterCount(module_->Lines(last, 1)) + 1});
 }
 
 int ModuleSession::RunInProcedures(const CommandRequest& command) {

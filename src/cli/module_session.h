@@ -13,6 +13,7 @@
 #include "memory/memory_environment.h"
 #include "memory/overlay_settings_area.h"
 #include "memory/source_file.h"
+#include "memory/xdg_shell_folders.h"
 
 namespace brimwork {
 
@@ -26,6 +27,9 @@ class ModuleSession {
   /// has no procedure of the name asked for. Throws SourceError for a line that the file has not.
   int Run(const CommandRequest& command);
 
+  /// Selects whole lines of the module, first to last, for a command on the selection.
+  void SelectLines(int first, int last);
+
   /// Called when the progress window repaints.
   void OnProgress(std::function<void(const frmInfo&)> show) {
     addIn_.progressWindow.OnRepaint = std::move(show);
@@ -33,6 +37,8 @@ class ModuleSession {
 
   const ModuleText& Text() const { return module_->Text(); }
   MemoryCodeModule& Module() { return *module_; }
+  /// Where the command runs, to answer its dialogs beforehand and to take what it wrote.
+  MemoryEnvironment& Memory() { return memory_; }
   Environment& Parts() { return addIn_.environment; }
 
   /// The errors that ended steps of the command early.
@@ -46,6 +52,7 @@ class ModuleSession {
   MemoryEnvironment memory_;
   OverlaySettingsArea settings_;
   LocaleClock clock_;
+  XdgShellFolders shellFolders_;
   std::shared_ptr<MemoryCodePane> pane_;
   std::shared_ptr<MemoryCodeModule> module_;
   AddIn addIn_;

@@ -7,7 +7,7 @@
 #include "cli/app.h"
 #include "cli/file_job.h"
 #include "cli/file_queue.h"
-#include "cli/inputs.h"
+#include "cli/run_inputs.h"
 #include "cli/run_progress.h"
 #include "cli/source_input.h"
 
@@ -15,9 +15,7 @@ namespace brimwork {
 namespace {
 
 void CheckModes(const RunOptions& options) {
-  if (options.paths.empty()) {
-    throw UsageError("no files given: name files, folders or projects, or - for standard input");
-  }
+  RequirePaths(options);
   if (options.write && options.check) {
     throw UsageError("--check writes nothing: leave out --write or --check");
   }
@@ -77,9 +75,7 @@ int ExitCodeOf(const RunOptions& options, const Totals& totals) {
 
 int RunFiles(const RunOptions& options, Console& console) {
   CheckModes(options);
-  const Inputs inputs = CollectInputs(options.paths, options.stdinFileName, options.encoding);
-  for (const std::string& note : inputs.notes) console.Note(note);
-  for (const std::string& error : inputs.errors) console.Error(error);
+  const Inputs inputs = CollectAndTell(options, console);
   CheckOneResult(options, inputs);
 
   Totals totals;

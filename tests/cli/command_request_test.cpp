@@ -54,8 +54,29 @@ TEST(CommandRequest, ComparesCaptionsExactly) {
 }
 
 TEST(CommandRequest, RefusesWhatOnlyTheEditorCanDo) {
-  EXPECT_THAT(ErrorOf("Full Screen", {}), HasSubstr("\"Full Screen\""));
   EXPECT_THAT(ErrorOf("Contents", {}), HasSubstr("\"Contents\""));
+}
+
+TEST(CommandRequest, RefusesWhatActsOnWindows) {
+  for (const std::string caption : {"Full Screen", "Clear Immediate Window", "Close Windows"}) {
+    const std::string expected =
+        '"' + caption + "\" acts on the environment's windows, and the command line has none";
+    EXPECT_EQ(ErrorOf(caption, {}), expected);
+    EXPECT_EQ(ErrorOf(caption, AtLine(1)), expected);
+  }
+}
+
+TEST(CommandRequest, NamesTheExportInsteadOfItsCaptions) {
+  const std::pair<std::string, std::string> exports[] = {{"Text", "--format text"},
+                                                         {"RTF", "--format rtf"},
+                                                         {"Web Page", "--format html"},
+                                                         {"Quick Export", "--quick"}};
+  for (const auto& [caption, options] : exports) {
+    const std::string expected =
+        '"' + caption + "\" makes another file of the module: run brimwork export " + options;
+    EXPECT_EQ(ErrorOf(caption, {}), expected);
+    EXPECT_EQ(ErrorOf(caption, AtLine(1)), expected);
+  }
 }
 
 TEST(CommandRequest, RefusesAPlaceForTheWholeModule) {
@@ -85,6 +106,7 @@ TEST(FriendlyNames, StandForCaptionsAndBack) {
   EXPECT_EQ(CommandNameOf("Comment All Procedures"), "comment");
   EXPECT_EQ(CommandNameOf("Comment Procedure"), "comment");
   EXPECT_EQ(CommandNameOf("Adapted Header"), "header --adapted");
+  EXPECT_EQ(CommandNameOf("Web Page"), "export --format html");
   EXPECT_EQ(CommandNameOf("Full Screen"), "");
 }
 

@@ -53,6 +53,9 @@ TEST(CommandsTable, SaysWhatEachCommandWorksOn) {
   EXPECT_EQ(RowOf("Comment Procedure"), "Comment Procedure|procedure|comment");
   EXPECT_EQ(RowOf("Insert Time Stamp"), "Insert Time Stamp|line|timestamp");
   EXPECT_EQ(RowOf("Standard Header"), "Standard Header|module|header");
+  EXPECT_EQ(RowOf("RTF"), "RTF|module or lines|export --format rtf");
+  EXPECT_EQ(RowOf("Quick Export"), "Quick Export|module or lines|export --quick");
+  EXPECT_EQ(RowOf("Full Screen"), "Full Screen|in the editor only");
   EXPECT_EQ(RowOf("MsgBox Creator"), "MsgBox Creator|in the editor only");
 }
 
