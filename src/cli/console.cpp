@@ -32,6 +32,7 @@ Console::Console(ColorChoice color, bool quiet, bool verbose)
       verbose_(verbose),
       outIsTerminal_(isatty(STDOUT_FILENO) == 1),
       colorsOut_(WantsColors(color, outIsTerminal_)),
+      colorsError_(WantsColors(color, isatty(STDERR_FILENO) == 1)),
       showsProgress_(!quiet && isatty(STDERR_FILENO) == 1) {}
 
 void Console::Out(std::string_view text) {
@@ -59,11 +60,15 @@ void Console::Progress(std::string_view line) {
   progressLineStands_ = !line.empty();
 }
 
-void Console::WriteErrorLine(std::string_view line) {
+void Console::Ask(std::string_view text) { WriteError(text); }
+
+void Console::WriteErrorLine(std::string_view line) { WriteError(std::string(line) + '\n'); }
+
+void Console::WriteError(std::string_view text) {
   const std::lock_guard lock(mutex_);
-  std::string text = progressLineStands_ ? std::string(kEraseLine) : std::string();
+  const std::string_view erased = progressLineStands_ ? kEraseLine : std::string_view();
   progressLineStands_ = false;
-  WriteToUser(text.append(line).append("\n"));
+  WriteToUser(std::string(erased).append(text));
 }
 
 }  // namespace brimwork

@@ -28,21 +28,27 @@ class Console {
   /// A line to standard error with --verbose only.
   void Detail(std::string_view line);
 
+  /// Writes to standard error as it stands, for a question that is answered on the same line.
+  void Ask(std::string_view text);
+
   /// A line that the next one overwrites; only on a terminal and only when the run takes long.
   void Progress(std::string_view line);
 
   bool ColorsOut() const { return colorsOut_; }
+  bool ColorsError() const { return colorsError_; }
   bool OutIsTerminal() const { return outIsTerminal_; }
   bool ShowsProgress() const { return showsProgress_; }
 
  private:
   void WriteErrorLine(std::string_view line);
+  void WriteError(std::string_view text);
 
   std::mutex mutex_;
   bool quiet_;
   bool verbose_;
   bool outIsTerminal_;
   bool colorsOut_;
+  bool colorsError_;
   bool showsProgress_;
   bool progressLineStands_ = false;
 };

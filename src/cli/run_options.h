@@ -1,6 +1,7 @@
 // What the options of a run mean, the same for every file of it.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -12,11 +13,14 @@
 
 namespace brimwork {
 
+struct SpellRun;
+
 struct RunOptions {
   CommandRequest command;
   bool write = false;  // with none of these three, the result of one file goes to standard output
   bool check = false;
   bool diff = false;
+  bool lists = false;     // tell about the files and change none
   bool isUnsafe = false;  // write also what brimwork cannot vouch for
   bool warnings = true;
 
@@ -30,7 +34,9 @@ struct RunOptions {
   std::string stdinFileName;
   int jobs = 1;
 
-  bool PrintsResult() const { return !write && !check && !diff; }
+  std::shared_ptr<SpellRun> spelling;  // null: no spelling is checked
+
+  bool PrintsResult() const { return !write && !check && !diff && !lists; }
 };
 
 }  // namespace brimwork

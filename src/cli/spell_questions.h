@@ -1,0 +1,45 @@
+// Asks the user about one misspelled word after the other and keeps what is decided.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "cli/misspelled_word.h"
+#include "cli/spell_answers.h"
+#include "spelling/spelling_session.h"
+
+namespace brimwork {
+
+/// The user's terminal: what is shown, and what is typed.
+struct SpellTerminal {
+  std::function<void(const std::string& text)> show;
+  std::function<std::optional<std::string>()> readLine;  // nothing at the end of the input
+  bool color = false;
+};
+
+class SpellQuestions {
+ public:
+  SpellQuestions(SpellingSession& session, SpellTerminal terminal)
+      : session_(session), terminal_(std::move(terminal)) {}
+
+  /// What takes the word's place, nothing when it stays. Asks until there is an answer, and not at
+  /// all once the user has stopped.
+  std::optional<std::string> Ask(const MisspelledWord& word);
+
+  bool HasStopped() const { return hasStopped_; }
+
+ private:
+  SpellAnswer NextAnswer(const std::vector<std::string>& suggestions);
+  bool CanBeTaken(const SpellAnswer& answer, const MisspelledWord& word);
+  std::optional<std::string> Take(const SpellAnswer& answer, const MisspelledWord& word);
+  void AddToUserWords(const std::string& word);
+
+  SpellingSession& session_;
+  SpellTerminal terminal_;
+  bool hasStopped_ = false;
+};
+
+}  // namespace brimwork
