@@ -12,6 +12,11 @@ void CommandButton::Press() {
   if (CanBeUsed()) Raise(OnClick);
 }
 
+void CommandButton::Design(const ControlLayout& layout) {
+  CaptionedControl::Design(layout);
+  Picture.Preset(layout.picture);
+}
+
 void CheckBox::Click() {
   if (IsReached()) Value = !Value;
 }

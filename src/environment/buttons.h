@@ -21,7 +21,12 @@ class CommandButton : public CaptionedControl {
 
   void PressAccessKey(char /*key*/) override { Click(); }
 
+  TextProperty Picture{*this, PropertyId::kPicture};  // name of the resource, "" for none
+
   std::function<void()> OnClick;
+
+ protected:
+  void Design(const ControlLayout& layout) override;
 };
 
 class CheckBox : public CaptionedControl {

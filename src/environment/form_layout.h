@@ -105,7 +105,7 @@ struct ControlLayout {
   // Frames, pictures and labels; nothing: what is usual for its kind.
   std::optional<int> borderStyle = {};
 
-  // Pictures and images.
+  // Pictures, images and command buttons.
   std::string_view picture = {};  // name of the resource
   bool isStretched = false;
 
