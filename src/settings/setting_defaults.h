@@ -1,5 +1,5 @@
 // The texts that readers of the settings fall back on: the separator line, the header templates,
-// the error-handling text, the clean-up steps and the built-in keyword list.
+// the error-handling texts, the clean-up steps and the built-in keyword list.
 #pragma once
 
 #include <string_view>
@@ -18,6 +18,12 @@ extern const std::string_view kStandardHeaderTemplate;
 extern const std::string_view kAdaptedHeaderTemplate;
 
 inline constexpr std::string_view kDefaultErrorHandling = "TEST HANDLE";
+
+/// The handler that the setup dialog offers while none is stored: it says where the error came
+/// from, its number and its description. One statement on one line, so that it can be numbered.
+inline constexpr std::string_view kOfferedErrorHandling =
+    "    MsgBox \"Error \" & Err.Number & \" in CURRENTFULLPROCEDUREPATH: \" & Err.Description, "
+    "vbExclamation, \"Error Encountered\"";
 
 inline constexpr std::string_view kDefaultCleanUpCodeOptions =
     "Header,Error,Indent,Comment,LineNumber";
