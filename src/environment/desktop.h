@@ -48,7 +48,9 @@ class Keyboard {
 
 namespace message_box {
 inline constexpr int kOkOnly = 0;
+inline constexpr int kYesNo = 4;
 inline constexpr int kCritical = 16;
+inline constexpr int kQuestion = 32;
 inline constexpr int kInformation = 64;
 }  // namespace message_box
 

@@ -3,12 +3,16 @@
 #pragma once
 
 #include "environment/desktop.h"
+#include "environment/dialog_windows.h"
 #include "environment/form_host.h"
+#include "environment/form_screen.h"
+#include "environment/message_boxes.h"
 #include "environment/native_windows.h"
 #include "environment/registry.h"
 #include "environment/rich_text_box.h"
 #include "environment/text_files.h"
 #include "environment/vbe.h"
+#include "environment/window_timers.h"
 #include "environment/word_processor.h"
 
 namespace brimwork {
@@ -26,6 +30,10 @@ struct Environment {
   Clock& clock;
   App& app;
   NativeWindows& nativeWindows;
+  DialogWindows& dialogWindows;
+  WindowTimers& windowTimers;
+  MessageBoxes& messageBoxes;
+  FormScreen& formScreen;
   RichTextBoxes& richTextBoxes;
   TextFiles& textFiles;
   WordProcessors& wordProcessors;

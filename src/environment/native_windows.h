@@ -65,8 +65,9 @@ class NativeWindows {
   /// Changes the item with that command number. False when it could not be.
   virtual bool SetMenuItemInfo(MenuHandle menu, std::int32_t item, const MenuItemInfo& info) = 0;
 
-  virtual void SendMessage(WindowHandle window, std::uint32_t message, std::intptr_t wParam,
-                           std::intptr_t lParam) = 0;
+  /// Returns what the window answers, 0 when there is no such window.
+  virtual std::intptr_t SendMessage(WindowHandle window, std::uint32_t message,
+                                    std::intptr_t wParam, std::intptr_t lParam) = 0;
 };
 
 }  // namespace brimwork

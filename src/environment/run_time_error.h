@@ -18,6 +18,7 @@ inline constexpr int kObjectNotSet = 91;
 inline constexpr int kNoSuchArrayElement = 340;
 inline constexpr int kCannotCreateObject = 429;
 inline constexpr int kInvalidFileFormat = 32000;
+inline constexpr int kNameConflict = 32813;
 inline constexpr int kElementNotFound = 35601;
 }  // namespace error_number
 

@@ -27,10 +27,33 @@ class CodePane {
   virtual void SetSelection(const Selection& selection) = 0;
 };
 
+/// The environment's own numbers for the kinds of components.
+namespace component_type {
+inline constexpr int kStandardModule = 1;
+}  // namespace component_type
+
+class VBComponent {
+ public:
+  virtual ~VBComponent() = default;
+  virtual std::string Name() = 0;
+  /// Raises error 32813 for a name that another component has.
+  virtual void SetName(std::string_view name) = 0;
+  virtual int Type() = 0;  // component_type::k...
+  /// Null for a component without code.
+  virtual std::shared_ptr<CodeModule> Module() = 0;
+};
+
 class VBProject {
  public:
   virtual ~VBProject() = default;
   virtual std::string Name() = 0;
+
+  /// All components, in the order of the environment's collection.
+  virtual std::vector<std::shared_ptr<VBComponent>> VBComponents() = 0;
+
+  /// Adds a component under a name that the environment chooses. The environment may write a line
+  /// into its module, as the user's options say.
+  virtual std::shared_ptr<VBComponent> AddVBComponent(int type) = 0;
 };
 
 class VBE {

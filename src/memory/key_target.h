@@ -24,6 +24,11 @@ class KeyTarget {
 
   /// Replaces the selection with text.
   virtual void Type(std::string_view text) = 0;
+
+  // Where text is typed, these two keys are text as well.
+
+  virtual void PressEnter() { Type("\r\n"); }
+  virtual void PressTab() { Type("\t"); }
 };
 
 }  // namespace brimwork

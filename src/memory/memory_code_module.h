@@ -14,6 +14,7 @@ class MemoryCodeModule : public CodeModule {
   MemoryCodeModule(std::string name, ModuleText text);
 
   std::string Name() override { return name_; }
+  void SetName(std::string name) { name_ = std::move(name); }
   std::uintptr_t Identity() override { return reinterpret_cast<std::uintptr_t>(this); }
   int CountOfLines() override { return text_.Count(); }
   int CountOfDeclarationLines() override { return index_.DeclarationLines(text_); }

@@ -9,9 +9,12 @@
 #include "memory/fixed_clock.h"
 #include "memory/memory_app.h"
 #include "memory/memory_clipboard.h"
+#include "memory/memory_dialog_windows.h"
 #include "memory/memory_dialogs.h"
 #include "memory/memory_form_host.h"
+#include "memory/memory_form_screen.h"
 #include "memory/memory_keyboard.h"
+#include "memory/memory_message_boxes.h"
 #include "memory/memory_message_loop.h"
 #include "memory/memory_native_windows.h"
 #include "memory/memory_registry.h"
@@ -21,6 +24,7 @@
 #include "memory/memory_shell_folders.h"
 #include "memory/memory_text_files.h"
 #include "memory/memory_vbe.h"
+#include "memory/memory_window_timers.h"
 #include "memory/memory_word_processor.h"
 
 namespace brimwork {
@@ -58,10 +62,14 @@ class MemoryEnvironment {
   FixedClock clock{"11/21/2026", "11/21/2026 10:20:30 AM"};
   MemoryApp app;
   MemoryNativeWindows nativeWindows;
+  MemoryDialogWindows dialogWindows{nativeWindows};
+  MemoryWindowTimers windowTimers{nativeWindows};
+  MemoryFormHost formHost{nativeWindows};
+  MemoryFormScreen formScreen{formHost};
+  MemoryMessageBoxes messageBoxes{nativeWindows, windowTimers, keyboard, formScreen};
   MemoryTextFiles textFiles;
   MemoryRichTextBoxes richTextBoxes{textFiles};
   MemoryWordProcessors wordProcessors{clipboard};
-  MemoryFormHost formHost{nativeWindows};
 };
 
 }  // namespace brimwork

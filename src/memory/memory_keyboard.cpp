@@ -1,5 +1,6 @@
 #include "memory/memory_keyboard.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,7 +10,7 @@
 namespace brimwork {
 namespace {
 
-enum class Key { kCopy, kPaste, kSelectAll, kDelete, kText };
+enum class Key { kCopy, kPaste, kSelectAll, kDelete, kEnter, kTab, kText };
 
 struct Keystroke {
   Key key;
@@ -19,6 +20,13 @@ struct Keystroke {
 [[noreturn]] void RefuseKeys(std::string_view keys) {
   throw RunTimeError(error_number::kInvalidProcedureCall,
                      "the keystrokes \"" + std::string(keys) + "\" are not understood");
+}
+
+std::optional<Key> NamedKey(std::string_view name) {
+  if (EqualNames(name, "DEL") || EqualNames(name, "DELETE")) return Key::kDelete;
+  if (EqualNames(name, "ENTER")) return Key::kEnter;
+  if (EqualNames(name, "TAB")) return Key::kTab;
+  return std::nullopt;
 }
 
 /// Reads one text of SendKeys notation from left to right.
@@ -73,8 +81,8 @@ class KeyParser {
     const auto end = keys_.find('}', at_ + 1);
     if (end == std::string_view::npos) RefuseKeys(keys_);
     const std::string_view name = keys_.substr(at_, end - at_);
-    if (EqualNames(name, "DEL") || EqualNames(name, "DELETE")) {
-      keystrokes_.push_back({Key::kDelete, {}});
+    if (const auto key = NamedKey(name)) {
+      keystrokes_.push_back({*key, {}});
     } else if (CharacterCount(name) == 1) {
       AddText(name);
     } else {
@@ -104,6 +112,10 @@ void Press(KeyTarget& target, Clipboard& clipboard, const Keystroke& keystroke) 
       return target.SelectAll();
     case Key::kDelete:
       return target.Delete();
+    case Key::kEnter:
+      return target.PressEnter();
+    case Key::kTab:
+      return target.PressTab();
     case Key::kText:
       return target.Type(keystroke.text);
   }

@@ -11,10 +11,10 @@ class MemoryKeyboard : public Keyboard {
  public:
   explicit MemoryKeyboard(Clipboard& clipboard) : clipboard_(clipboard) {}
 
-  /// Understands plain characters, Ctrl with c, v or a ("^(c)", "^c"), "{Del}" or "{Delete}", and a
-  /// character with a meaning of its own in braces ("{+}"). Anything else raises error 5, and then
-  /// no key was sent. Without focus the keys go nowhere. wait makes no difference: keys are
-  /// processed at once.
+  /// Understands plain characters, Ctrl with c, v or a ("^(c)", "^c"), "{Del}" or "{Delete}",
+  /// "{Enter}", "{Tab}", and a character with a meaning of its own in braces ("{+}"). Anything else
+  /// raises error 5, and then no key was sent. Without focus the keys go nowhere. wait makes no
+  /// difference: keys are processed at once.
   void SendKeys(std::string_view keys, bool wait) override;
 
   /// The target lives at least until the focus moves on; null takes the focus from every target.

@@ -2,7 +2,6 @@
 // code panes that are opened in it.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -11,19 +10,10 @@
 #include "environment/vbe.h"
 #include "memory/memory_code_pane.h"
 #include "memory/memory_command_bar.h"
+#include "memory/memory_project.h"
 #include "memory/memory_window.h"
 
 namespace brimwork {
-
-class MemoryProject : public VBProject {
- public:
-  /// name is asked for only when a command wants the project's name.
-  explicit MemoryProject(std::function<std::string()> name) : name_(std::move(name)) {}
-  std::string Name() override { return name_(); }
-
- private:
-  std::function<std::string()> name_;
-};
 
 class MemoryVbe : public VBE {
  public:

@@ -7,6 +7,7 @@
 #include "support/faulty_calls.h"
 #include "support/faulty_desktop.h"
 #include "support/faulty_form_host.h"
+#include "support/faulty_message_boxes.h"
 #include "support/faulty_rich_text_box.h"
 #include "support/faulty_tools.h"
 #include "support/faulty_vbe.h"
@@ -28,6 +29,10 @@ struct FaultyEnvironment::Decorators {
         clock(inner.clock, calls),
         app(inner.app, calls),
         nativeWindows(inner.nativeWindows, calls),
+        dialogWindows(inner.dialogWindows, calls),
+        windowTimers(inner.windowTimers, calls),
+        messageBoxes(inner.messageBoxes, calls),
+        formScreen(inner.formScreen, calls),
         richTextBoxes(inner.richTextBoxes, calls),
         textFiles(inner.textFiles, calls),
         wordProcessors(inner.wordProcessors, calls),
@@ -46,6 +51,10 @@ struct FaultyEnvironment::Decorators {
   FaultyClock clock;
   FaultyApp app;
   FaultyNativeWindows nativeWindows;
+  FaultyDialogWindows dialogWindows;
+  FaultyWindowTimers windowTimers;
+  FaultyMessageBoxes messageBoxes;
+  FaultyFormScreen formScreen;
   FaultyRichTextBoxes richTextBoxes;
   FaultyTextFiles textFiles;
   FaultyWordProcessors wordProcessors;
@@ -71,6 +80,10 @@ Environment FaultyEnvironment::Parts() {
           .clock = all.clock,
           .app = all.app,
           .nativeWindows = all.nativeWindows,
+          .dialogWindows = all.dialogWindows,
+          .windowTimers = all.windowTimers,
+          .messageBoxes = all.messageBoxes,
+          .formScreen = all.formScreen,
           .richTextBoxes = all.richTextBoxes,
           .textFiles = all.textFiles,
           .wordProcessors = all.wordProcessors,
@@ -84,10 +97,11 @@ const std::vector<std::string_view>& FaultyEnvironment::Operations() const {
 bool FaultyEnvironment::RanAway() const { return decorators_->calls.RanAway(); }
 
 bool FaultyEnvironment::CanAnswerNothing(std::string_view operation) {
-  constexpr std::array<std::string_view, 8> kObjects = {
-      "VBE.ActiveCodePane",        "VBE.ActiveVBProject",        "VBE.MainWindow",
-      "VBE.ActiveWindow",          "VBE.WindowOfCaption",        "CodePane.Module",
-      "CodePane.ContainingWindow", "WordProcessors.CreateObject"};
+  constexpr std::array<std::string_view, 10> kObjects = {
+      "VBE.ActiveCodePane",        "VBE.ActiveVBProject",         "VBE.MainWindow",
+      "VBE.ActiveWindow",          "VBE.WindowOfCaption",         "CodePane.Module",
+      "CodePane.ContainingWindow", "WordProcessors.CreateObject", "VBComponent.Module",
+      "FormScreen.ActiveForm"};
   return operation.starts_with("Registry.") ||
          std::find(kObjects.begin(), kObjects.end(), operation) != kObjects.end();
 }

@@ -47,10 +47,10 @@ class FaultyNativeWindows : public NativeWindows {
     return calls_.Through("NativeWindows.SetMenuItemInfo",
                           [&] { return inner_.SetMenuItemInfo(menu, item, info); });
   }
-  void SendMessage(WindowHandle window, std::uint32_t message, std::intptr_t wParam,
-                   std::intptr_t lParam) override {
-    calls_.Through("NativeWindows.SendMessage",
-                   [&] { inner_.SendMessage(window, message, wParam, lParam); });
+  std::intptr_t SendMessage(WindowHandle window, std::uint32_t message, std::intptr_t wParam,
+                            std::intptr_t lParam) override {
+    return calls_.Through("NativeWindows.SendMessage",
+                          [&] { return inner_.SendMessage(window, message, wParam, lParam); });
   }
 
  private:

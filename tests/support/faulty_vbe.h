@@ -93,12 +93,51 @@ class FaultyCodePane : public CodePane {
   FaultyCalls& calls_;
 };
 
+class FaultyComponent : public VBComponent {
+ public:
+  FaultyComponent(std::shared_ptr<VBComponent> inner, FaultyCalls& calls)
+      : inner_(std::move(inner)), calls_(calls) {}
+  std::string Name() override {
+    return calls_.Through("VBComponent.Name", [&] { return inner_->Name(); });
+  }
+  void SetName(std::string_view name) override {
+    calls_.Through("VBComponent.SetName", [&] { inner_->SetName(name); });
+  }
+  int Type() override {
+    return calls_.Through("VBComponent.Type", [&] { return inner_->Type(); });
+  }
+  std::shared_ptr<CodeModule> Module() override {
+    return calls_.ObjectThrough("VBComponent.Module", [&]() -> std::shared_ptr<CodeModule> {
+      auto module = inner_->Module();
+      return module ? std::make_shared<FaultyCodeModule>(std::move(module), calls_) : nullptr;
+    });
+  }
+
+ private:
+  std::shared_ptr<VBComponent> inner_;
+  FaultyCalls& calls_;
+};
+
 class FaultyProject : public VBProject {
  public:
   FaultyProject(std::shared_ptr<VBProject> inner, FaultyCalls& calls)
       : inner_(std::move(inner)), calls_(calls) {}
   std::string Name() override {
     return calls_.Through("VBProject.Name", [&] { return inner_->Name(); });
+  }
+  std::vector<std::shared_ptr<VBComponent>> VBComponents() override {
+    return calls_.Through("VBProject.VBComponents", [&] {
+      std::vector<std::shared_ptr<VBComponent>> components;
+      for (auto& component : inner_->VBComponents()) {
+        components.push_back(std::make_shared<FaultyComponent>(std::move(component), calls_));
+      }
+      return components;
+    });
+  }
+  std::shared_ptr<VBComponent> AddVBComponent(int type) override {
+    return calls_.Through("VBProject.AddVBComponent", [&] {
+      return std::make_shared<FaultyComponent>(inner_->AddVBComponent(type), calls_);
+    });
   }
 
  private:
