@@ -3,10 +3,11 @@
 namespace brimwork {
 
 void RunProgress::Show(const std::string& path, const frmInfo& window) {
-  if (!console_.ShowsProgress() || !window.Visible || !IsDue()) return;
+  if (!console_.ShowsProgress() || !window.Visible() || !IsDue()) return;
   const std::string count =
       files_ > 1 ? std::to_string(done_ + 1) + " of " + std::to_string(files_) + ": " : "";
-  console_.Progress(count + path + ": " + window.lblInfo.Caption + ' ' + window.picProgress.Text);
+  console_.Progress(count + path + ": " + window.lblInfo.Caption.Get() + ' ' +
+                    window.picProgress.Tag.Get() + '%');
 }
 
 bool RunProgress::IsDue() {

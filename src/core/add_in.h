@@ -25,7 +25,7 @@ struct AddIn {
 
   Environment environment;
   Context context;
-  frmInfo progressWindow{environment.richTextBoxes};
+  frmInfo progressWindow{environment};
   std::function<void(const RunTimeError&)> onSkippedError;
 };
 

@@ -4,6 +4,11 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <string>
+
+#include "core/frmInfo_layout.h"
+#include "environment/resume_next.h"
+#include "ide_windows/modTweakWindow.h"
 
 namespace brimwork {
 namespace {
@@ -28,18 +33,59 @@ int LastWithSamePercentage(int current, int total) {
 
 }  // namespace
 
+frmInfo::frmInfo(const Environment& environment)
+    : Form(environment.formHost, InfoLayout()), environment_(environment) {}
+
+// The user must not close the window while a command runs.
+void frmInfo::Form_Load() {
+  drawn_ = {};
+  UpdateProgressBar(0, 100);
+  EnableCloseButton(environment_, hWnd(), false);
+}
+
+void frmInfo::LoadIfPossible() {
+  ResumeNext([this] { Load(); });
+}
+
 void frmInfo::ProgressMessage(std::string_view message, std::string_view formCaption) {
+  LoadIfPossible();
   lblInfo.Caption = message;
   if (!formCaption.empty()) Caption = formCaption;
-  Repaint();
+  Repaint(lblInfo);
 }
 
 void frmInfo::UpdateProgressBar(int current, int total) {
   if (drawn_.Holds(current, total)) return;
+  LoadIfPossible();
   drawn_ = {current, LastWithSamePercentage(current, total), total};
-  picProgress.Tag = std::to_string(Percentage(current, total));
-  picProgress.Text = picProgress.Tag + '%';
-  Repaint();
+  DrawBar(Percentage(current, total));
+  Repaint(picProgress);
+}
+
+// The second pen inverts what the bar covers, so the text over it shows in the opposite colours.
+void frmInfo::DrawBar(int percentage) {
+  TakeOffBorder();
+  picProgress.Tag = std::to_string(percentage);
+  const std::string text = picProgress.Tag.Get() + '%';
+  const int width = picProgress.ScaleWidth();
+  const int height = picProgress.ScaleHeight();
+  const TextExtent size = picProgress.TextSize(text);
+  picProgress.Cls();
+  picProgress.DrawMode = DrawMode::kCopyPen;
+  picProgress.Print((width - size.width) / 2, (height - size.height) / 2, text);
+  picProgress.DrawMode = DrawMode::kXorPen;
+  picProgress.FillRectangle({0, 0, width * percentage / 100, height}, picProgress.BackColor);
+}
+
+/// The bar is drawn on a box without a border; what lies inside the border stays where it is.
+void frmInfo::TakeOffBorder() {
+  if (picProgress.BorderStyle == border_style::kNone) return;
+  const int width = picProgress.ScaleWidth();
+  const int height = picProgress.ScaleHeight();
+  const int left = picProgress.Left + (picProgress.Width - width) / 2;
+  const int top = picProgress.Top + (picProgress.Height - height) / 2;
+  picProgress.BorderStyle = border_style::kNone;
+  picProgress.Move(left, top, width, height);
 }
 
 void frmInfo::ResetProgressBar() {
@@ -48,13 +94,18 @@ void frmInfo::ResetProgressBar() {
 }
 
 void frmInfo::Show() {
-  Visible = true;
-  Repaint();
+  ResumeNext([this] { Form::Show(); });
+  TellOfRepaint();
 }
 
 void frmInfo::Hide() {
-  Visible = false;
-  Repaint();
+  Form::Hide();
+  TellOfRepaint();
+}
+
+void frmInfo::Repaint(Control& control) {
+  control.Refresh();
+  TellOfRepaint();
 }
 
 }  // namespace brimwork

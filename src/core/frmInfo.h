@@ -1,28 +1,21 @@
-// The progress window: a message, a bar with its percentage, and the two rich text controls that
-// the exporters work in. It is data; a host that shows it asks to be told of each repaint.
+// The progress window: a message, a bar with its percentage, the two rich text controls that the
+// exporters work in, and the pictures of the button faces.
 #pragma once
 
 #include <functional>
 #include <memory>
-#include <string>
 #include <string_view>
 
+#include "environment/controls.h"
+#include "environment/environment.h"
 #include "export/progress_form.h"
 
 namespace brimwork {
 
-class frmInfo : public ProgressForm {
+/// Using it loads it. Commands go on without a window that cannot be made or shown.
+class frmInfo : public Form, public ProgressForm {
  public:
-  struct Label {
-    std::string Caption;
-  };
-  struct PictureBox {
-    std::string Tag;   // the last percentage drawn
-    std::string Text;  // the text written on the bar
-  };
-
-  /// controls: where the rich text controls come from, when they are first asked for.
-  explicit frmInfo(RichTextBoxes& controls) : controls_(controls) {}
+  explicit frmInfo(const Environment& environment);
 
   /// Sets the message; a title other than "" becomes the window's caption.
   void ProgressMessage(std::string_view message, std::string_view formCaption = {}) override;
@@ -36,23 +29,30 @@ class frmInfo : public ProgressForm {
   void Show() override;
   void Hide() override;
 
-  RichTextBox& rtf() override { return Control(rtf_); }
-  RichTextBox& rtfTemp() override { return Control(rtfTemp_); }
+  RichTextBox& rtf() override { return Made(rtf_); }
+  RichTextBox& rtfTemp() override { return Made(rtfTemp_); }
 
-  std::string Caption;
-  Label lblInfo;
-  PictureBox picProgress;
-  bool Visible = false;
+  Label lblInfo{*this, "lblInfo"};
+  PictureBox picProgress{*this, "picProgress"};  // its tag: the last percentage drawn
+  ImageList imlFaces{*this, "imlFaces"};         // the button faces, by face key
+  PictureBox picToolbar{*this, "picToolbar"};    // through it faces are pasted onto buttons
 
   /// Called after each change that the user is to see at once; may be empty.
   std::function<void(const frmInfo&)> OnRepaint;
 
+ protected:
+  void Form_Load() override;
+
  private:
-  void Repaint() const {
+  void LoadIfPossible();
+  void DrawBar(int percentage);
+  void TakeOffBorder();
+  void Repaint(Control& control);
+  void TellOfRepaint() const {
     if (OnRepaint) OnRepaint(*this);
   }
-  RichTextBox& Control(std::unique_ptr<RichTextBox>& control) {
-    if (!control) control = controls_.Create();
+  RichTextBox& Made(std::unique_ptr<RichTextBox>& control) {
+    if (!control) control = environment_.richTextBoxes.Create();
     return *control;
   }
 
@@ -68,8 +68,8 @@ class frmInfo : public ProgressForm {
     }
   };
 
+  Environment environment_;
   DrawnSpan drawn_;
-  RichTextBoxes& controls_;
   std::unique_ptr<RichTextBox> rtf_;
   std::unique_ptr<RichTextBox> rtfTemp_;
 };

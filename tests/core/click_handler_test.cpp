@@ -124,7 +124,7 @@ TEST_F(ClickHandler, WithoutACodeSourceEveryCodeCommandTellsTheUserExactlyOnce) 
     Click(handler);
     EXPECT_THAT(memory.dialogs.Messages(), SizeIs(++told)) << handler;
     EXPECT_EQ(screen.MousePointer(), mouse_pointer::kDefault) << handler;
-    EXPECT_FALSE(addIn.progressWindow.Visible) << handler;
+    EXPECT_FALSE(addIn.progressWindow.Visible()) << handler;
   }
   EXPECT_THAT(LinesOf(*pane->Module()), ElementsAreArray(before));
 }

@@ -108,7 +108,7 @@ class Click {
   std::string Complaint() const {
     if (!raised_.empty()) return "raised an error: " + raised_;
     if (faulty_.RanAway()) return "does not come to an end";
-    if (addIn_.progressWindow.Visible) return "leaves the progress window";
+    if (addIn_.progressWindow.Visible()) return "leaves the progress window";
     const auto lost = FirstLostLine(sample_.text, Text());
     return lost ? "lost the line: " + *lost : "";
   }

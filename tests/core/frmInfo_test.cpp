@@ -1,3 +1,4 @@
+// The percentage and the messages of the progress window.
 #include "core/frmInfo.h"
 
 #include <gtest/gtest.h>
@@ -9,9 +10,15 @@
 namespace brimwork {
 namespace {
 
-std::string TagFor(int current, int total) {
+/// The progress window in an environment of its own.
+struct Progress {
   MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
+  frmInfo window{memory.Parts()};
+};
+
+std::string TagFor(int current, int total) {
+  Progress progress;
+  frmInfo& window = progress.window;
   window.UpdateProgressBar(current, total);
   return window.picProgress.Tag;
 }
@@ -56,16 +63,9 @@ TEST(ProgressWindow, CountsLinesOfTheLongestModules) {
   EXPECT_EQ(TagFor(kMost / 2, kMost), "50");
 }
 
-TEST(ProgressWindow, WritesThePercentageOnTheBar) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
-  window.UpdateProgressBar(50, 100);
-  EXPECT_EQ(window.picProgress.Text, "50%");
-}
-
 TEST(ProgressWindow, AMessageComesWithATitleOrKeepsTheOneThatIsThere) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
+  Progress progress;
+  frmInfo& window = progress.window;
   window.ProgressMessage("one", "Title");
   EXPECT_EQ(window.lblInfo.Caption, "one");
   EXPECT_EQ(window.Caption, "Title");
@@ -76,43 +76,44 @@ TEST(ProgressWindow, AMessageComesWithATitleOrKeepsTheOneThatIsThere) {
 }
 
 TEST(ProgressWindow, ResetAsksForPatienceAndEmptiesTheBar) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
+  Progress progress;
+  frmInfo& window = progress.window;
   window.ProgressMessage("done", "Done");
   window.UpdateProgressBar(100, 100);
   window.ResetProgressBar();
   EXPECT_EQ(window.lblInfo.Caption, "Processing Request...Please Wait");
   EXPECT_EQ(window.Caption, "Processing...");
   EXPECT_EQ(window.picProgress.Tag, "0");
-  EXPECT_EQ(window.picProgress.Text, "0%");
 }
 
 TEST(ProgressWindow, IsHiddenUntilItIsShown) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
-  EXPECT_FALSE(window.Visible);
+  Progress progress;
+  frmInfo& window = progress.window;
+  EXPECT_FALSE(window.Visible());
   window.Show();
-  EXPECT_TRUE(window.Visible);
+  EXPECT_TRUE(window.Visible());
   window.Hide();
-  EXPECT_FALSE(window.Visible);
+  EXPECT_FALSE(window.Visible());
 }
 
 TEST(ProgressWindow, IsRepaintedAtOnceAfterEachChange) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
+  Progress progress;
+  frmInfo& window = progress.window;
+  window.Load();
   std::string painted;
   window.OnRepaint = [&](const frmInfo& shown) {
-    painted += shown.lblInfo.Caption + '/' + shown.picProgress.Tag + ' ';
+    painted += shown.lblInfo.Caption.Get() + '/' + shown.picProgress.Tag.Get() + ' ';
   };
   window.ProgressMessage("one");
   window.UpdateProgressBar(1, 2);
   window.ProgressMessage("two");
-  EXPECT_EQ(painted, "one/ one/50 two/50 ");
+  EXPECT_EQ(painted, "one/0 one/50 two/50 ");
 }
 
 TEST(ProgressWindow, IsNotRepaintedWhileThePercentageStays) {
-  MemoryEnvironment memory;
-  frmInfo window{memory.richTextBoxes};
+  Progress progress;
+  frmInfo& window = progress.window;
+  window.Load();
   int repaints = 0;
   window.OnRepaint = [&](const frmInfo&) { ++repaints; };
   for (int current = 0; current <= 10'000; ++current) window.UpdateProgressBar(current, 10'000);
@@ -122,8 +123,8 @@ TEST(ProgressWindow, IsNotRepaintedWhileThePercentageStays) {
 
 TEST(ProgressWindow, ShowsTheSameWhetherEachStepOrOnlyOneIsDrawn) {
   for (const int total : {1, 2, 3, 7, 99, 100, 101, 150, 997}) {
-    MemoryEnvironment memory;
-    frmInfo window{memory.richTextBoxes};
+    Progress progress;
+    frmInfo& window = progress.window;
     for (int current = -2; current <= total + 2; ++current) {
       window.UpdateProgressBar(current, total);
       EXPECT_EQ(window.picProgress.Tag, TagFor(current, total)) << current << " of " << total;

@@ -28,8 +28,9 @@ const std::string S = "'" + std::string(89, '=');
 TextLines ShownDuring(OpenedModule& opened, std::string_view caption) {
   TextLines shown;
   opened.addIn.progressWindow.OnRepaint = [&](const frmInfo& window) {
-    if (!window.Visible) return;
-    shown.push_back(window.Caption + '|' + window.lblInfo.Caption + '|' + window.picProgress.Tag);
+    if (!window.Visible()) return;
+    shown.push_back(window.Caption.Get() + '|' + window.lblInfo.Caption.Get() + '|' +
+                    window.picProgress.Tag.Get());
   };
   opened.ClickAll(caption);
   opened.addIn.progressWindow.OnRepaint = nullptr;
@@ -44,7 +45,7 @@ TEST(ModuleCommands, ShowTheirMessageAndThenHowFarTheyAreForEachProcedure) {
                           "Indenting All Procedures|Now indenting all procedures|25",
                           "Indenting All Procedures|Now indenting all procedures|25",
                           "Indenting All Procedures|Now indenting all procedures|75"));
-  EXPECT_FALSE(opened.addIn.progressWindow.Visible);
+  EXPECT_FALSE(opened.addIn.progressWindow.Visible());
 }
 
 TEST(ModuleCommands, EachHasATitleAndAMessageOfItsOwn) {
@@ -71,7 +72,7 @@ TEST(ModuleCommands, OnAModuleWithoutProceduresShowAndHideTheProgressWindowAndCh
       EXPECT_THAT(ShownDuring(opened, caption),
                   ElementsAre("Processing...|Processing Request...Please Wait|0"))
           << caption;
-      EXPECT_FALSE(opened.addIn.progressWindow.Visible);
+      EXPECT_FALSE(opened.addIn.progressWindow.Visible());
       EXPECT_THAT(opened.Lines(), ElementsAreArray(lines)) << caption;
     }
   }
@@ -84,7 +85,7 @@ TEST(ModuleCommands, WithoutACodeSourceTellTheUserOnceAndChangeNothing) {
     opened.ClickAll(caption);
     EXPECT_THAT(opened.environment.dialogs.Messages(), SizeIs(1)) << caption;
     EXPECT_THAT(opened.Lines(), ElementsAre("Sub A()", "x = 1", "End Sub")) << caption;
-    EXPECT_FALSE(opened.addIn.progressWindow.Visible) << caption;
+    EXPECT_FALSE(opened.addIn.progressWindow.Visible()) << caption;
   }
 }
 
@@ -158,7 +159,7 @@ TEST(ModuleCommands, ACleanUpEndsOnTheUsersOwnLineAlthoughItsStepsMoveTheCaret) 
 TEST(ModuleCommands, ACleanUpHidesTheProgressWindowAndRestoresThePointer) {
   OpenedModule opened(kTwo);
   opened.ClickAll("Code Clean Up");
-  EXPECT_FALSE(opened.addIn.progressWindow.Visible);
+  EXPECT_FALSE(opened.addIn.progressWindow.Visible());
   EXPECT_EQ(opened.environment.screen.MousePointer(), mouse_pointer::kDefault);
   EXPECT_EQ(opened.environment.screen.LockedWindow(), 0u);
 }
