@@ -1,5 +1,5 @@
-// A rich text control. Positions are characters from 0; a line end counts as two, CR and LF. Every
-// operation may raise RunTimeError.
+// A rich text control. Positions are characters from 0; a line end counts as two, CR and LF, which
+// are formatted and replaced together. Every operation may raise RunTimeError.
 #pragma once
 
 #include <cstdint>
@@ -27,17 +27,20 @@ class RichTextBox {
 
   /// The whole text, lines joined by CR LF.
   virtual std::string Text() = 0;
-  /// Replaces the whole content; the caret goes to its start.
+  /// Replaces the whole content; a lone CR or LF becomes CR LF. The caret goes to the start.
   virtual void SetText(std::string_view text) = 0;
 
   virtual int SelStart() = 0;
-  /// Moves the caret and ends the selection; a position behind the text is drawn back to its end.
+  /// Moves the caret and ends the selection; a position behind the text is drawn back to its end,
+  /// one in front of it to its start.
   virtual void SetSelStart(int position) = 0;
   virtual int SelLength() = 0;
+  /// Selects from the caret on, to the end of the text at most.
   virtual void SetSelLength(int length) = 0;
 
   virtual void SetSelColor(Color color) = 0;
   virtual void SetSelFontName(std::string_view name) = 0;
+  /// Raises error 5 for a size that no font has.
   virtual void SetSelFontSize(int points) = 0;
 
   /// Replaces the selected text, which keeps the format of its first character; the caret goes
@@ -64,6 +67,7 @@ class RichTextBox {
   virtual int LineIndexOfCaret() = 0;
   /// Length of the line that holds the position, without its line end.
   virtual int LineLength(int position) = 0;
+  /// A line without its line end; "" when there is no such line.
   virtual std::string Line(int line) = 0;
 };
 

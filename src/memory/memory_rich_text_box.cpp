@@ -4,68 +4,64 @@
 
 #include "environment/run_time_error.h"
 #include "environment/text.h"
+#include "memory/rtf_reader.h"
+#include "memory/rtf_writer.h"
 
 namespace brimwork {
-namespace {
-
-[[noreturn]] void RefuseFormats() {
-  throw RunTimeError(error_number::kInvalidProcedureCall, "the text box holds plain text only");
-}
-
-}  // namespace
 
 void MemoryRichTextBox::SetText(std::string_view text) {
-  text_ = WithCrLf(text);
-  SetSelStart(0);
+  content_.SetText(text);
+  selection_ = {};
 }
 
 void MemoryRichTextBox::SetSelStart(int position) {
-  selStart_ = std::clamp(position, 0, CharacterCount(text_));
-  selLength_ = 0;
+  selection_ = {std::clamp(position, 0, content_.Size()), 0};
 }
 
 void MemoryRichTextBox::SetSelLength(int length) {
-  selLength_ = std::clamp(length, 0, CharacterCount(text_) - selStart_);
+  selection_.length = std::clamp(length, 0, content_.Size() - selection_.start);
 }
 
-void MemoryRichTextBox::SetSelColor(Color /*color*/) { RefuseFormats(); }
-void MemoryRichTextBox::SetSelFontName(std::string_view /*name*/) { RefuseFormats(); }
-void MemoryRichTextBox::SetSelFontSize(int /*points*/) { RefuseFormats(); }
-std::string MemoryRichTextBox::SelRTF() { RefuseFormats(); }
-void MemoryRichTextBox::SetTextRTF(std::string_view /*richText*/) { RefuseFormats(); }
-
 void MemoryRichTextBox::SetSelText(std::string_view text) {
-  const std::size_t start = ByteOffset(text_, selStart_);
-  const std::size_t end = ByteOffset(text_, selStart_ + selLength_);
-  text_.replace(start, end - start, text);
-  SetSelStart(selStart_ + CharacterCount(text));
+  selection_ = {content_.Replace(selection_, text), 0};
+}
+
+std::string MemoryRichTextBox::SelRTF() { return WriteRtf(content_, selection_); }
+
+void MemoryRichTextBox::SetTextRTF(std::string_view richText) {
+  content_ = ReadRtf(richText);
+  selection_ = {};
 }
 
 void MemoryRichTextBox::SaveFile(std::string_view path, SaveAs type) {
-  if (type == SaveAs::kRichText) RefuseFormats();
-  std::string buffer;
-  files_.Write(path, std::string(files_.Codec().Encode(text_, buffer)));
+  files_.Write(path, type == SaveAs::kRichText ? RichTextBytes() : PlainTextBytes(path));
 }
 
-int MemoryRichTextBox::LineCount() { return static_cast<int>(SplitLines(text_).size()); }
-
-int MemoryRichTextBox::LineFromCaret() {
-  const std::string before = text_.substr(0, ByteOffset(text_, selStart_));
-  return static_cast<int>(SplitLines(before).size()) - 1;
-}
-
-int MemoryRichTextBox::LineIndexOfCaret() {
-  const auto lines = SplitLines(text_);
-  const auto line = lines[static_cast<std::size_t>(LineFromCaret())];
-  return CharacterCount(std::string_view(text_.data(), line.data()));
-}
-
-int MemoryRichTextBox::LineLength(int /*position*/) {
-  return CharacterCount(Line(LineFromCaret()));
+int MemoryRichTextBox::LineLength(int position) {
+  return CharacterCount(content_.Line(content_.LineAt(position)));
 }
 
 std::string MemoryRichTextBox::Line(int line) {
-  return std::string(SplitLines(text_)[static_cast<std::size_t>(line)]);
+  if (line < 0 || line >= LineCount()) return {};
+  return std::string(content_.Line(line));
+}
+
+/// Characters by which the codec tells byte forms apart mean nothing to other programs: these get
+/// what the characters look like.
+std::string MemoryRichTextBox::RichTextBytes() {
+  const TextCodec& codec = files_.Codec();
+  if (codec.ForDisplay(content_.Text()) == content_.Text()) return WriteRtf(content_);
+  return WriteRtf(content_.Changed([&](std::string_view text) { return codec.ForDisplay(text); }));
+}
+
+std::string MemoryRichTextBox::PlainTextBytes(std::string_view path) {
+  try {
+    std::string buffer;
+    return std::string(files_.Codec().Encode(content_.Text(), buffer));
+  } catch (const TextCodecError& error) {
+    throw RunTimeError(error_number::kInvalidProcedureCall,
+                       std::string(path) + ": " + error.what());
+  }
 }
 
 }  // namespace brimwork

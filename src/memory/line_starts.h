@@ -1,0 +1,33 @@
+// Where the lines of a text start, found as far as asked and kept until the text changes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace brimwork {
+
+/// Each call is handed the text, whose lines are joined by CR LF. Lines count from 0.
+class LineStarts {
+ public:
+  /// At least 1: a text that ends in a line end has an empty line behind it.
+  int Count(std::string_view text);
+
+  /// The line that holds a byte, its line end included.
+  int LineAt(std::string_view text, std::size_t byte);
+
+  /// First byte of a line; there must be so many.
+  std::size_t Start(std::string_view text, int line);
+
+  /// The text changed from a byte on.
+  void Forget(std::size_t byte);
+
+ private:
+  void LookThrough(std::string_view text);
+
+  std::vector<std::uint32_t> starts_{0};
+  std::size_t seen_ = 0;  // bytes looked through
+};
+
+}  // namespace brimwork

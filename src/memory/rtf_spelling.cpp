@@ -1,0 +1,124 @@
+#include "memory/rtf_spelling.h"
+
+#include <array>
+#include <charconv>
+
+#include "environment/text.h"
+#include "environment/utf8.h"
+
+namespace brimwork {
+namespace {
+
+constexpr std::array<bool, 256> PlainBytes() {
+  std::array<bool, 256> plain{};
+  for (std::size_t byte = ' '; byte <= '~'; ++byte) {
+    plain[byte] = !IsOneOf(static_cast<char>(byte), "\\{}");
+  }
+  return plain;
+}
+
+constexpr std::array<bool, 256> kIsPlain = PlainBytes();
+
+std::size_t PlainSize(std::string_view text) {
+  std::size_t size = 0;
+  while (size < text.size() && kIsPlain[static_cast<unsigned char>(text[size])]) ++size;
+  return size;
+}
+
+void AppendNumber(std::string& text, int number) {
+  std::array<char, 12> digits;
+  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  text.append(digits.data(), result.ptr);
+}
+
+}  // namespace
+
+void RtfSpelling::AppendWord(std::string_view word) {
+  document_ += word;
+  isBehindWord_ = true;
+}
+
+void RtfSpelling::AppendWord(std::string_view word, int number) {
+  AppendWord(word);
+  AppendNumber(document_, number);
+}
+
+void RtfSpelling::AppendText(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t plain = PlainSize(text);
+    if (plain > 0) AppendPlain(text.substr(0, plain));
+    text.remove_prefix(plain);
+    if (!text.empty()) text.remove_prefix(AppendSpecial(text));
+  }
+}
+
+void RtfSpelling::EndParagraph() { AppendSyntax("\\par\r\n"); }
+
+void RtfSpelling::AppendName(std::string_view name) {
+  for (; !name.empty(); name.remove_prefix(Utf8Size(name))) {
+    const char c = name[0];
+    if (IsOneOf(c, ";\r\n\t")) {
+      AppendHex(c);
+    } else {
+      AppendText(name.substr(0, Utf8Size(name)));
+    }
+  }
+}
+
+void RtfSpelling::AppendSyntax(std::string_view syntax) {
+  document_ += syntax;
+  isBehindWord_ = false;
+}
+
+void RtfSpelling::AppendPlain(std::string_view text) {
+  if (isBehindWord_) document_ += ' ';
+  isBehindWord_ = false;
+  document_ += text;
+}
+
+/// Appends the character that text starts with; returns its size there.
+std::size_t RtfSpelling::AppendSpecial(std::string_view text) {
+  if (static_cast<unsigned char>(text[0]) < 0x80) return AppendAsciiSpecial(text[0]);
+  AppendUnicode(Utf8Character(text));
+  return Utf8Size(text);
+}
+
+std::size_t RtfSpelling::AppendAsciiSpecial(char c) {
+  if (c == '\r') {
+    EndParagraph();
+    return 2;
+  }
+  if (c == '\t') {
+    AppendWord("\\tab");
+  } else if (IsOneOf(c, "\\{}")) {
+    AppendSyntax("\\");
+    document_ += c;
+  } else {
+    AppendHex(c);
+  }
+  return 1;
+}
+
+void RtfSpelling::AppendHex(char c) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  AppendSyntax("\\'");
+  document_ += kDigits[static_cast<unsigned char>(c) >> 4];
+  document_ += kDigits[static_cast<unsigned char>(c) & 15];
+}
+
+void RtfSpelling::AppendUnicode(char32_t character) {
+  if (character < 0x10000) {
+    AppendUtf16(character);
+    return;
+  }
+  AppendUtf16(0xD800 + ((character - 0x10000) >> 10));
+  AppendUtf16(0xDC00 + (character & 0x3FF));
+}
+
+/// The number is signed; readers that do not know the word show the question mark.
+void RtfSpelling::AppendUtf16(char32_t unit) {
+  AppendWord("\\u", unit < 0x8000 ? static_cast<int>(unit) : static_cast<int>(unit) - 0x10000);
+  AppendSyntax("?");
+}
+
+}  // namespace brimwork

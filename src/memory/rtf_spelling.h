@@ -1,0 +1,42 @@
+// Text as a rich text document spells it: ASCII, with everything else escaped.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace brimwork {
+
+/// Appends what belongs to the body of a document. Control words and text that go to the same
+/// document must all pass through here, so that text never runs into a control word.
+class RtfSpelling {
+ public:
+  explicit RtfSpelling(std::string& document) : document_(document) {}
+
+  /// word: with its backslash.
+  void AppendWord(std::string_view word);
+  void AppendWord(std::string_view word, int number);
+
+  /// text: UTF-8, its line ends CR LF, each of which becomes the end of a paragraph.
+  void AppendText(std::string_view text);
+
+  void EndParagraph();
+
+  /// A name within a list that semicolons divide.
+  void AppendName(std::string_view name);
+
+  /// What divides words from each other by itself: a brace, a semicolon.
+  void AppendSyntax(std::string_view syntax);
+
+ private:
+  void AppendPlain(std::string_view text);
+  std::size_t AppendSpecial(std::string_view text);
+  std::size_t AppendAsciiSpecial(char c);
+  void AppendHex(char c);
+  void AppendUnicode(char32_t character);
+  void AppendUtf16(char32_t unit);
+
+  std::string& document_;
+  bool isBehindWord_ = false;  // text that follows needs a blank in front of it
+};
+
+}  // namespace brimwork

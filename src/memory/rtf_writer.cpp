@@ -1,0 +1,158 @@
+#include "memory/rtf_writer.h"
+
+#include <array>
+#include <unordered_map>
+#include <vector>
+
+#include "memory/rtf_spelling.h"
+
+namespace brimwork {
+namespace {
+
+std::string_view FamilyOf(std::string_view fontName) {
+  struct Family {
+    std::string_view fontName;
+    std::string_view word;
+  };
+  constexpr std::array<Family, 6> kFamilies = {{{"Courier New", "\\fmodern"},
+                                                {"Courier", "\\fmodern"},
+                                                {"Consolas", "\\fmodern"},
+                                                {"MS Sans Serif", "\\fswiss"},
+                                                {"Arial", "\\fswiss"},
+                                                {"Times New Roman", "\\froman"}}};
+  for (const Family& family : kFamilies) {
+    if (family.fontName == fontName) return family.word;
+  }
+  return "\\fnil";
+}
+
+class RtfWriter {
+ public:
+  RtfWriter(const RichText& content, TextRange range)
+      : content_(content), bytes_(content.BytesOf(range)) {}
+
+  std::string Write() {
+    NumberFontsAndColors();
+    document_.reserve(ExpectedSize());
+    AppendHeader();
+    AppendBody();
+    spelling_.AppendSyntax("}\r\n");
+    return std::move(document_);
+  }
+
+ private:
+  std::span<const FormatRun> Runs() const;
+  std::size_t ExpectedSize() const;
+  void NumberFontsAndColors();
+  void AppendHeader();
+  void AppendFontTable();
+  void AppendColorTable();
+  void AppendBody();
+  void AppendFormat(const PackedFormat& format, const PackedFormat* before);
+  std::string_view TextOf(std::span<const FormatRun> runs, std::size_t index) const;
+
+  const RichText& content_;
+  const ByteRange bytes_;
+  std::string document_;
+  RtfSpelling spelling_{document_};
+  std::vector<std::uint16_t> fonts_;  // in the order of their numbers, as the colours are
+  std::unordered_map<std::uint16_t, int> fontNumbers_;
+  std::vector<Color> colors_;
+  std::unordered_map<Color, int> colorNumbers_{{PackedFormat::kAutomatic, 0}};
+};
+
+/// The runs of which the range holds something; of an empty range the one that holds its place.
+std::span<const FormatRun> RtfWriter::Runs() const {
+  const FormatRuns& formats = content_.Formats();
+  const std::size_t first = formats.IndexAt(bytes_.start);
+  const std::size_t last = formats.IndexAt(bytes_.Size() > 0 ? bytes_.end - 1 : bytes_.start);
+  return formats.Runs().subspan(first, last - first + 1);
+}
+
+std::size_t RtfWriter::ExpectedSize() const {
+  constexpr std::size_t kBytesOfRun = 6;
+  constexpr std::size_t kBytesOfHeader = 1000;
+  return bytes_.Size() + bytes_.Size() / 8 + Runs().size() * kBytesOfRun + kBytesOfHeader;
+}
+
+void RtfWriter::NumberFontsAndColors() {
+  for (const FormatRun& run : Runs()) {
+    const auto fontNumber = static_cast<int>(fonts_.size());
+    if (fontNumbers_.try_emplace(run.format.font, fontNumber).second) {
+      fonts_.push_back(run.format.font);
+    }
+    const auto colorNumber = static_cast<int>(colors_.size()) + 1;
+    if (colorNumbers_.try_emplace(run.format.color, colorNumber).second) {
+      colors_.push_back(run.format.color);
+    }
+  }
+}
+
+void RtfWriter::AppendHeader() {
+  spelling_.AppendSyntax("{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1");
+  AppendFontTable();
+  AppendColorTable();
+  spelling_.AppendSyntax("\r\n");
+  spelling_.AppendWord("\\viewkind4\\uc1\\pard");
+}
+
+void RtfWriter::AppendFontTable() {
+  spelling_.AppendSyntax("{\\fonttbl");
+  for (std::size_t number = 0; number < fonts_.size(); ++number) {
+    const std::string& name = content_.Formats().FontName(fonts_[number]);
+    spelling_.AppendSyntax("{");
+    spelling_.AppendWord("\\f", static_cast<int>(number));
+    spelling_.AppendWord(FamilyOf(name));
+    spelling_.AppendWord("\\fcharset0");
+    spelling_.AppendName(name);
+    spelling_.AppendSyntax(";}");
+  }
+  spelling_.AppendSyntax("}\r\n");
+}
+
+void RtfWriter::AppendColorTable() {
+  spelling_.AppendWord("{\\colortbl");
+  spelling_.AppendSyntax(" ;");
+  for (const Color color : colors_) {
+    spelling_.AppendWord("\\red", static_cast<int>(color & 0xFF));
+    spelling_.AppendWord("\\green", static_cast<int>(color >> 8 & 0xFF));
+    spelling_.AppendWord("\\blue", static_cast<int>(color >> 16));
+    spelling_.AppendSyntax(";");
+  }
+  spelling_.AppendSyntax("}");
+}
+
+void RtfWriter::AppendBody() {
+  const auto runs = Runs();
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    AppendFormat(runs[i].format, i == 0 ? nullptr : &runs[i - 1].format);
+    spelling_.AppendText(TextOf(runs, i));
+  }
+  spelling_.EndParagraph();
+}
+
+void RtfWriter::AppendFormat(const PackedFormat& format, const PackedFormat* before) {
+  if (before == nullptr || before->color != format.color) {
+    spelling_.AppendWord("\\cf", colorNumbers_[format.color]);
+  }
+  if (before == nullptr || before->font != format.font) {
+    spelling_.AppendWord("\\f", fontNumbers_[format.font]);
+  }
+  if (before == nullptr || before->halfPoints != format.halfPoints) {
+    spelling_.AppendWord("\\fs", format.halfPoints);
+  }
+}
+
+std::string_view RtfWriter::TextOf(std::span<const FormatRun> runs, std::size_t index) const {
+  const std::size_t start = std::max<std::size_t>(runs[index].start, bytes_.start);
+  const std::size_t end = index + 1 < runs.size() ? runs[index + 1].start : bytes_.end;
+  return std::string_view(content_.Text()).substr(start, end - start);
+}
+
+}  // namespace
+
+std::string WriteRtf(const RichText& content, TextRange range) {
+  return RtfWriter(content, range).Write();
+}
+
+}  // namespace brimwork
