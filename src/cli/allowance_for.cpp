@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/spell_run.h"
 #include "environment/text.h"
 #include "settings/setting_keys.h"
 #include "transform/modCommentCode.h"
@@ -69,7 +70,7 @@ Allowance AllowanceFor(std::string_view caption, Environment& environment) {
   if (caption == "Standard Header") AllowHeader(allowance, environment, header_kind::kStandard);
   if (caption == "Adapted Header") AllowHeader(allowance, environment, header_kind::kAdapted);
   if (caption == "Insert Time Stamp") allowance.stamp = TimeStampText(environment);
-  if (caption == "Spell Check - Quotes and Comments") allowance.spellingMayChange = true;
+  if (caption == kSpellCheckCaption) allowance.spellingMayChange = true;
   if (caption == "Code Clean Up") AllowCleanUp(allowance, environment);
   return allowance;
 }

@@ -16,6 +16,7 @@
 #include "cli/near_miss.h"
 #include "cli/run_files.h"
 #include "cli/settings_command.h"
+#include "cli/spell_command.h"
 
 namespace brimwork {
 namespace {
@@ -33,7 +34,7 @@ constexpr const char* kExamples =
     "  brimwork export --format html Form1.frm  print the code as a web page\n"
     "  brimwork run \"Comment Procedure\" --line 40 Module1.bas\n"
     "\n"
-    "Exit codes: 0 done, 1 --check found something to change, 2 an error.";
+    "Exit codes: 0 done, 1 --check or --list found something, 2 an error.";
 
 constexpr std::size_t kHelpColumn = 28;
 
@@ -49,8 +50,9 @@ constexpr SubcommandText kFriendlyCommands[] = {
      "  brimwork cleanup --diff Shop.vbp\n"
      "  brimwork cleanup --steps Indent,Comment --write Module1.bas\n"
      "\n"
-     "Steps: Header, Error, Indent, Comment, LineNumber. Without --steps, those of the\n"
-     "setting CleanUpCodeOptions."},
+     "Steps: Header, Error, Indent, Comment, LineNumber, SpellCheck. Without --steps,\n"
+     "those of the setting CleanUpCodeOptions. SpellCheck asks about each word, on a\n"
+     "terminal, unless --replace is given."},
     {"indent", "Re-indent every procedure",
      "Examples:\n"
      "  brimwork indent --write --tab-width 2 Module1.bas\n"
@@ -81,6 +83,15 @@ constexpr SubcommandText kFriendlyCommands[] = {
      "  brimwork timestamp --line 12 --column 1 --write Module1.bas\n"
      "\n"
      "Without --column, the stamp goes behind the text of the line."},
+    {"spell", "Check the spelling of literals and comments",
+     "Examples:\n"
+     "  brimwork spell Module1.bas               ask about each word, then write\n"
+     "  brimwork spell --diff Form1.frm          ask, then show the changes only\n"
+     "  brimwork spell --list Shop.vbp           list words as FILE:LINE:COLUMN\n"
+     "  brimwork spell --replace teh=the --write src/\n"
+     "  brimwork spell --dictionary de_DE --dictionary en_US Module1.bas\n"
+     "\n"
+     "Words that you add are kept in words.txt beside the settings file."},
 };
 
 /// Everything that one parse of the command line leaves behind.
@@ -114,6 +125,10 @@ void AddFriendlyCommand(CLI::App& app, ParsedLine& line, const SubcommandText& t
   } else if (name == "cleanup") {
     command->add_option("--steps", line.options.steps, "Steps of this run, joined by commas")
         ->option_text("STEP,...");
+    AddSpellOptions(*command, line.options.spelling);
+  } else if (name == "spell") {
+    AddListOption(*command, line.options.spelling);
+    AddSpellOptions(*command, line.options.spelling);
   } else if (name == "timestamp") {
     AddLineOptions(*command, line.options);
   } else if (name != "indent") {
@@ -203,7 +218,9 @@ int RunSubcommand(const CLI::App& app, const ParsedLine& line, Console& console)
   if (name == "export") {
     return ExportFiles(MakeExportRequest(line.options, line.exporting), console);
   }
-  return RunFiles(MakeRunOptions(CaptionAskedFor(name, line), line.options), console);
+  RunOptions run = MakeRunOptions(CaptionAskedFor(name, line), line.options);
+  PrepareSpelling(run, line.options.spelling, console);
+  return RunFiles(run, console);
 }
 
 /// The hint for a first word that should have been a subcommand, "" when it is one.

@@ -7,6 +7,7 @@
 
 #include "cli/console.h"
 #include "cli/run_options.h"
+#include "cli/spell_options.h"
 
 namespace CLI {
 class App;
@@ -33,6 +34,7 @@ struct AppOptions {
   std::optional<int> jobs;
   std::vector<std::string> settings;  // KEY=VALUE
   PlaceRequest place;
+  SpellOptions spelling;
 };
 
 /// What is read: the files and how they are encoded.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/near_miss.h"
+#include "cli/spell_run.h"
 #include "core/catalogue.h"
 #include "core/modButtonClicked.h"
 
@@ -27,7 +28,7 @@ constexpr FriendlyName kFriendlyNames[] = {
     {"header", "Standard Header"},
     {"header --adapted", "Adapted Header"},
     {"timestamp", "Insert Time Stamp"},
-    {"spell", "Spell Check - Quotes and Comments"},
+    {"spell", kSpellCheckCaption},
     {"export --format text", "Text"},
     {"export --format rtf", "RTF"},
     {"export --format html", "Web Page"},
@@ -54,9 +55,11 @@ std::string UnknownCaption(std::string_view caption) {
          "; \"brimwork commands\" lists them all";
 }
 
-/// A header goes to the top of the module wherever the caret stands.
+/// A header goes to the top of the module wherever the caret stands, and the spell check goes over
+/// all of it.
 bool NeedsPlace(std::string_view caption) {
-  return caption != "Standard Header" && caption != "Adapted Header";
+  return caption != "Standard Header" && caption != "Adapted Header" &&
+         caption != kSpellCheckCaption;
 }
 
 /// Refuses the commands that leave no module behind: those that make another file of it, and those

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command_request.h"
+#include "cli/spell_run.h"
 #include "core/catalogue.h"
 #include "core/modButtonClicked.h"
 
@@ -25,6 +26,7 @@ std::string_view WorksOn(std::string_view caption) {
   const bool onModule = HasCommand(caption, true);
   const bool atPlace = HasCommand(caption, false);
   if (caption == "Standard Header" || caption == "Adapted Header") return "module";
+  if (caption == kSpellCheckCaption) return "module";
   if (caption == "Insert Time Stamp") return "line";
   if (IsExport(caption)) return "module or lines";
   if (ActsOnWindows(caption)) return "in the editor only";

@@ -9,6 +9,7 @@
 #include "cli/module_checks.h"
 #include "cli/module_session.h"
 #include "cli/source_input.h"
+#include "environment/text.h"
 
 namespace brimwork {
 namespace {
@@ -37,7 +38,7 @@ class FileJob {
   void Run(FileReport& report, const std::function<void(const frmInfo&)>& showProgress) {
     session_.OnProgress(showProgress);
     report.lacksProcedure = session_.Run(options_.command) == 0;
-    if (report.lacksProcedure) return;
+    if (report.lacksProcedure || !TakeSpelling(report)) return;
     const LinesAsRead before(file_);
     report.wouldChange = !IsAsRead(before, LinesNow(session_.Text()));
     if (!Check(before, report)) return;
@@ -45,6 +46,19 @@ class FileJob {
   }
 
  private:
+  /// False when the spell check leaves nothing to be written: it failed, or was to list only.
+  bool TakeSpelling(FileReport& report) {
+    if (session_.Spelling() == nullptr) return true;
+    for (const ShownMessage& message : session_.Memory().dialogs.Messages()) {
+      report.errors.push_back(path_ + ": " + Replace(message.prompt, "\r\n", ". "));
+    }
+    if (options_.lists) {
+      report.output = session_.Spelling()->List();
+      report.listed = session_.Spelling()->ListedWords();
+    }
+    return report.errors.empty() && !options_.lists;
+  }
+
   /// Vouches for the result and collects the warnings; false when the file must be left alone.
   bool Check(const LinesAsRead& before, FileReport& report) {
     const LinesNow after(session_.Text());

@@ -22,6 +22,7 @@ struct FileReport {
   std::vector<std::string> errors;
   bool wouldChange = false;
   bool lacksProcedure = false;  // of the name asked for
+  int listed = 0;               // misspelled words
 };
 
 /// Never throws for what is wrong with the file. A result for standard output is written to console

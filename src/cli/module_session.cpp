@@ -4,6 +4,7 @@
 
 #include "core/modButtonClicked.h"
 #include "environment/text.h"
+#include "settings/setting_keys.h"
 #include "settings/settings.h"
 
 namespace brimwork {
@@ -28,10 +29,21 @@ ModuleSession::ModuleSession(const RunOptions& options, SourceFile& file,
     memory_.registry.SetDword(kHiveCurrentUser, kEditorOptions, "TabWidth",
                               static_cast<std::uint32_t>(*options.tabWidth));
   }
+  memory_.wordProcessors.isInstalled = options.spelling != nullptr;
+  if (options.spelling) {
+    spelling_.emplace(*options.spelling, file, *module_,
+                      GetCommandSetting(addIn_.environment, setting::kSeperator),
+                      memory_.wordProcessors);
+  }
   addIn_.onSkippedError = [this](const RunTimeError& error) { skippedErrors_.push_back(error); };
 }
 
+/// The spelling step of a clean-up finds all places done already.
 int ModuleSession::Run(const CommandRequest& command) {
+  if (spelling_) {
+    spelling_->CheckWith([this] { ButtonClicked(addIn_, kSpellCheckCaption, false); });
+  }
+  if (command.caption == kSpellCheckCaption) return 1;
   if (command.place.procedure) return RunInProcedures(command);
   if (command.place.line) PlaceCaret(file_.ModuleLineOf(*command.place.line), command);
   ButtonClicked(addIn_, command.caption, command.wholeModule);

@@ -4,9 +4,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "cli/module_spelling.h"
 #include "cli/run_options.h"
 #include "core/add_in.h"
 #include "memory/locale_clock.h"
@@ -26,6 +28,9 @@ class ModuleSession {
   /// Runs the command where it was asked for. Returns how many places it ran at: 0 when the module
   /// has no procedure of the name asked for. Throws SourceError for a line that the file has not.
   int Run(const CommandRequest& command);
+
+  /// What became of the module's spelling; null in a run that does not check it.
+  const ModuleSpelling* Spelling() const { return spelling_ ? &*spelling_ : nullptr; }
 
   /// Selects whole lines of the module, first to last, for a command on the selection.
   void SelectLines(int first, int last);
@@ -56,6 +61,7 @@ class ModuleSession {
   std::shared_ptr<MemoryCodePane> pane_;
   std::shared_ptr<MemoryCodeModule> module_;
   AddIn addIn_;
+  std::optional<ModuleSpelling> spelling_;
   std::vector<RunTimeError> skippedErrors_;
 };
 

@@ -4,10 +4,12 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "cli/line_decisions.h"
 #include "cli/piece_walk.h"
 #include "cli/prose.h"
 #include "cli/spell_run.h"
@@ -26,7 +28,8 @@ class ModuleSpelling {
   ModuleSpelling& operator=(const ModuleSpelling&) = delete;
 
   /// Runs the spell check until it changes nothing more: each time it corrects one piece of a line
-  /// at most. No place is asked about twice, also by a spell check that runs later on.
+  /// at most. Each word is decided on when its piece is first come to, and never again: a spell
+  /// check that runs later on changes nothing.
   void CheckWith(const std::function<void()>& spellCheck);
 
   /// For a run that lists: a line for each misspelled word, and their number.
@@ -36,22 +39,22 @@ class ModuleSpelling {
  private:
   std::string Correct(const std::string& text);
   void FollowTheSpellCheck(const std::string& text);
-  std::string CorrectedPiece(const std::string& text);
-  std::optional<Misspelling> NextMisspelling(const std::string& text, std::size_t from);
-  bool IsToBeChecked(const Misspelling& wrong) const;
-  std::optional<std::string> ReplacementOf(const Misspelling& wrong, const MisspelledWord& shown);
-  MisspelledWord AsShown(const Misspelling& wrong, const std::string& textBefore,
-                         const std::string& text) const;
+  void TakeOverWrittenPieces();
+
+  void DecideOnPiece();
+  bool HasStopped() const { return run_.questions && run_.questions->HasStopped(); }
+  std::optional<Misspelling> NextUndecided();
+  bool IsUndecided(const Misspelling& wrong) const;
+  std::optional<std::string> ReplacementOf(const Misspelling& wrong);
+  MisspelledWord AsShown(const Misspelling& wrong) const;
 
   SpellRun& run_;
   const SourceFile& file_;
-  MemoryWordProcessors& processors_;
   PieceWalk walk_;
   std::vector<ProseStretch> prose_;  // of the line that the walk is at
-  int spellChecks_ = 0;              // how many the walk has seen begin
-  int correctedLine_ = 0;            // of this spell check, the latest one
-  bool hasChanged_ = false;
-  std::vector<std::size_t> done_;  // pieces of each line that need no more asking
+  std::map<int, LineDecisions> decisions_;
+  std::map<int, SpellingPiece> written_;  // the piece of each line that this check has corrected
+  bool isFinished_ = false;
 
   std::string list_;
   int listedWords_ = 0;

@@ -30,8 +30,6 @@ class PieceWalk {
   int LineNumber() const { return lineNumber_; }
   const std::string& Line() const { return line_; }  // as it was when the walk came to it
   Continues Above() const { return above_; }         // what that line continues
-  /// The piece's number in its line, from 0.
-  std::size_t Index() const { return index_; }
   const SpellingPiece& Piece() const { return pieces_[index_]; }
   std::string_view Text() const {
     return std::string_view(line_).substr(Piece().offset, Piece().size);

@@ -36,6 +36,7 @@ struct Totals {
   int changed = 0;
   int failed = 0;
   int withoutProcedure = 0;
+  int listed = 0;
 };
 
 void Tell(const FileReport& report, Console& console) {
@@ -52,6 +53,7 @@ void Add(Totals& totals, const FileReport& report) {
   totals.changed += report.wouldChange;
   totals.failed += !report.errors.empty();
   totals.withoutProcedure += report.lacksProcedure;
+  totals.listed += report.listed;
 }
 
 std::string Counted(int count, const std::string& noun) {
@@ -61,14 +63,17 @@ std::string Counted(int count, const std::string& noun) {
 void TellTotals(const RunOptions& options, const Totals& totals, Console& console) {
   if (totals.files < 2) return;
   const std::string verb = options.write ? " changed" : " would change";
-  std::string line = Counted(totals.files, "file") + ", " + std::to_string(totals.changed) + verb;
+  std::string line = Counted(totals.files, "file") + ", " +
+                     (options.lists ? Counted(totals.listed, "misspelled word")
+                                    : std::to_string(totals.changed) + verb);
   if (totals.failed > 0) line += ", " + std::to_string(totals.failed) + " failed";
   console.Note(line);
 }
 
 int ExitCodeOf(const RunOptions& options, const Totals& totals) {
   if (totals.failed > 0) return exit_code::kError;
-  return options.check && totals.changed > 0 ? exit_code::kWouldChange : exit_code::kDone;
+  const int found = options.lists ? totals.listed : options.check ? totals.changed : 0;
+  return found > 0 ? exit_code::kWouldChange : exit_code::kDone;
 }
 
 }  // namespace

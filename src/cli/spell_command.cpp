@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "cli/inputs.h"
+#include "cli/run_inputs.h"
 #include "cli/spell_run.h"
 #include "environment/text.h"
 #include "settings/setting_keys.h"
@@ -155,6 +155,7 @@ std::optional<Mode> ModeOfCleanUp(const RunOptions& run, const SpellOptions& opt
 }  // namespace
 
 void PrepareSpelling(RunOptions& run, const SpellOptions& options, Console& console) {
+  RequirePaths(run);
   std::optional<Mode> mode;
   if (run.command.caption == kSpellCheckCaption) mode = ModeOfSpellCheck(run, options);
   if (run.command.caption == kCleanUp) mode = ModeOfCleanUp(run, options, console);

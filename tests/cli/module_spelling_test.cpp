@@ -122,7 +122,7 @@ TEST(ModuleSpelling, KeepsWhatWasDecidedBeforeTheUserStopped) {
 
 TEST(ModuleSpelling, AsksOnceAboutAQuotedWordOfAComment) {
   SpelledModule module({"' teh \"wrod\" end", "' the \"teh\" end"});
-  EXPECT_THAT(module.Check({"1", "i", "1", "unread"}),
+  EXPECT_THAT(module.Check({"1", "1", "i", "unread"}),
               ElementsAre("' the \"word\" end", "' the \"teh\" end"));
   EXPECT_EQ(module.Unread(), 1u);
 }
@@ -144,6 +144,33 @@ TEST(ModuleSpelling, TakesTheTailOfALiteralWithAnApostropheForNoWord) {
 TEST(ModuleSpelling, CorrectsAWordToOneWithAnApostrophe) {
   SpelledModule module({"s = \"dont\" & x ' note"});
   EXPECT_THAT(module.Check({"r don't"}), ElementsAre("s = \"don't\" & x ' note"));
+}
+
+TEST(ModuleSpelling, AsksAboutTheWordsOfALineFromTheLeftThoughItCorrectsOnePieceATime) {
+  SpelledModule module({"MsgBox \"teh\" & \"wrod\" ' noet", "' teh"});
+  EXPECT_THAT(module.Check({"r these", "1", "r notes", "1"}),
+              ElementsAre("MsgBox \"these\" & \"word\" ' notes", "' the"));
+  EXPECT_THAT(module.Shown(), HasSubstr("    MsgBox \"these\" & \"word\" ' noet\n"));
+}
+
+TEST(ModuleSpelling, DoesNotAskAboutTheUsersOwnText) {
+  SpelledModule module({"MsgBox \"teh\" & \"wrod\" ' x"});
+  EXPECT_THAT(module.Check({"r zzyzx", "r yzzyz", "unread"}),
+              ElementsAre("MsgBox \"zzyzx\" & \"yzzyz\" ' x"));
+  EXPECT_EQ(module.Unread(), 1u);
+}
+
+TEST(ModuleSpelling, FollowsACommentThatACorrectionMakesStartEarlier) {
+  SpelledModule module({"s = \"dont\" & Totl ' wrod teh"});
+  EXPECT_THAT(module.Check({"r don't", "1", "i", "unread"}),
+              ElementsAre("s = \"don't\" & Totl ' word teh"));
+  EXPECT_EQ(module.Unread(), 1u);
+}
+
+TEST(ModuleSpelling, WritesWhatWasDecidedInTheLineWhereTheUserStopped) {
+  SpelledModule module({"MsgBox \"teh\" & \"wrod\" & \"teh\" ' teh"});
+  EXPECT_THAT(module.Check({"1", "1", "s"}),
+              ElementsAre("MsgBox \"the\" & \"word\" & \"teh\" ' teh"));
 }
 
 TEST(ModuleSpelling, KeepsTheAccessKeyOfACaption) {

@@ -16,12 +16,11 @@ const TextLines kLines{"Sub A()",      "x = \"one\" & \"\" & \"two\" ' three",
                        "'=====",       "' four _",
                        "say \"five\"", "End Sub"};
 
-/// "line/index: text" of each piece.
+/// "line: text" of each piece.
 std::vector<std::string> Walked(PieceWalk& walk) {
   std::vector<std::string> pieces;
   while (walk.Next()) {
-    pieces.push_back(std::to_string(walk.LineNumber()) + '/' + std::to_string(walk.Index()) + ": " +
-                     std::string(walk.Text()));
+    pieces.push_back(std::to_string(walk.LineNumber()) + ": " + std::string(walk.Text()));
   }
   return pieces;
 }
@@ -29,8 +28,7 @@ std::vector<std::string> Walked(PieceWalk& walk) {
 TEST(PieceWalk, GoesOverThePiecesThatAreSent) {
   OpenedModule opened(kLines);
   PieceWalk walk(opened.Module(), "'=====");
-  EXPECT_THAT(Walked(walk),
-              ElementsAre("2/0: one", "2/2: two", "2/3:  three", "4/0:  four _", "5/0: five"));
+  EXPECT_THAT(Walked(walk), ElementsAre("2: one", "2: two", "2:  three", "4:  four _", "5: five"));
   EXPECT_FALSE(walk.Next());
 }
 
