@@ -34,6 +34,8 @@ class Clipboard {
   virtual ~Clipboard() = default;
   virtual std::string GetText() = 0;  // "" when it holds no text
   virtual void SetText(std::string_view text) = 0;
+  /// Puts the picture of a resource there.
+  virtual void SetData(std::string_view picture) = 0;
   virtual void Clear() = 0;
 };
 

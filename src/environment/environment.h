@@ -10,6 +10,7 @@
 #include "environment/native_windows.h"
 #include "environment/registry.h"
 #include "environment/rich_text_box.h"
+#include "environment/shell.h"
 #include "environment/text_files.h"
 #include "environment/vbe.h"
 #include "environment/window_timers.h"
@@ -37,6 +38,8 @@ struct Environment {
   RichTextBoxes& richTextBoxes;
   TextFiles& textFiles;
   WordProcessors& wordProcessors;
+  Shell& shell;
+  HelpViewer& helpViewer;
   FormHost& formHost;
 };
 

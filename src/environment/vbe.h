@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "environment/code_module.h"
+#include "environment/command_bar.h"
 #include "environment/window.h"
 
 namespace brimwork {
@@ -60,6 +61,9 @@ class VBE {
  public:
   virtual ~VBE() = default;
 
+  /// The path of the environment's program file.
+  virtual std::string FullName() = 0;
+
   /// The pane that is active or was last active.
   virtual std::shared_ptr<CodePane> ActiveCodePane() = 0;
   virtual std::shared_ptr<VBProject> ActiveVBProject() = 0;
@@ -74,7 +78,21 @@ class VBE {
   /// The window of Windows() with exactly this caption, null when there is none.
   virtual std::shared_ptr<Window> WindowOfCaption(std::string_view caption) = 0;
 
+  /// Menus and pop-up menus are among them; those are visible while they are open.
   virtual std::vector<std::shared_ptr<CommandBar>> CommandBars() = 0;
+
+  /// The bar of CommandBars() with exactly this name, null when there is none.
+  virtual std::shared_ptr<CommandBar> CommandBarOfName(std::string_view name) = 0;
+
+  /// Raises an error when there is a bar of that name.
+  virtual std::shared_ptr<CommandBar> AddCommandBar(const NewCommandBar& bar) = 0;
+
+  /// The first control of that number on any bar, null when there is none.
+  virtual std::shared_ptr<CommandBarControl> FindControl(int id) = 0;
+
+  /// Binds onClick to the clicks of a control: Events.CommandBarEvents. Has to come behind SetTag.
+  virtual std::unique_ptr<CommandBarEvents> CommandBarEventsOf(
+      const std::shared_ptr<CommandBarControl>& control, ClickHandler onClick) = 0;
 };
 
 }  // namespace brimwork

@@ -1,5 +1,5 @@
-// The windows and command bars of the environment, as far as commands look at them. Every
-// operation may raise RunTimeError.
+// The windows of the environment, as far as commands look at them. Every operation may raise
+// RunTimeError.
 #pragma once
 
 #include <cstdint>
@@ -37,14 +37,6 @@ class Window {
 
   /// Closes a code window or designer; hides any other.
   virtual void Close() = 0;
-};
-
-class CommandBar {
- public:
-  virtual ~CommandBar() = default;
-  virtual std::string Name() = 0;
-  virtual bool Visible() = 0;
-  virtual void SetVisible(bool visible) = 0;
 };
 
 }  // namespace brimwork

@@ -46,6 +46,8 @@ Environment MemoryEnvironment::Parts(const Replacements& others) {
           .richTextBoxes = richTextBoxes,
           .textFiles = textFiles,
           .wordProcessors = wordProcessors,
+          .shell = shell,
+          .helpViewer = helpViewer,
           .formHost = formHost};
 }
 

@@ -21,6 +21,7 @@
 #include "memory/memory_rich_text_box.h"
 #include "memory/memory_screen.h"
 #include "memory/memory_settings_area.h"
+#include "memory/memory_shell.h"
 #include "memory/memory_shell_folders.h"
 #include "memory/memory_text_files.h"
 #include "memory/memory_vbe.h"
@@ -52,7 +53,7 @@ class MemoryEnvironment {
 
   MemoryClipboard clipboard;
   MemoryKeyboard keyboard{clipboard};
-  MemoryVbe vbe{keyboard};
+  MemoryVbe vbe{keyboard, clipboard};
   MemoryScreen screen;
   MemoryDialogs dialogs;
   MemoryMessageLoop messageLoop;
@@ -70,6 +71,8 @@ class MemoryEnvironment {
   MemoryTextFiles textFiles;
   MemoryRichTextBoxes richTextBoxes{textFiles};
   MemoryWordProcessors wordProcessors{clipboard};
+  MemoryShell shell;
+  MemoryHelpViewer helpViewer;
 };
 
 }  // namespace brimwork

@@ -4,11 +4,13 @@
 
 namespace brimwork {
 
-MemoryVbe::MemoryVbe(MemoryKeyboard& keyboard)
-    : windows(keyboard), mainWindow_(windows.Add(kMainWindowCaption, window_type::kMainWindow)) {
+MemoryVbe::MemoryVbe(MemoryKeyboard& keyboard, const MemoryClipboard& clipboard)
+    : windows(keyboard),
+      commandBars(clipboard),
+      mainWindow_(windows.Add(kMainWindowCaption, window_type::kMainWindow)) {
   windows.OnActivate = [this](MemoryWindow& window) { NoteActivation(window); };
   windows.OnRemove = [this](MemoryWindow& window) { ForgetPaneOf(window); };
-  AddCommandBar(std::make_shared<MemoryCommandBar>("Menu Bar"));
+  AddCommandBar(std::make_shared<MemoryCommandBar>(kMenuBarName));
 }
 
 std::shared_ptr<Window> MemoryVbe::ActiveWindow() {
@@ -25,7 +27,24 @@ std::shared_ptr<Window> MemoryVbe::WindowOfCaption(std::string_view caption) {
 }
 
 std::vector<std::shared_ptr<CommandBar>> MemoryVbe::CommandBars() {
-  return {commandBars_.begin(), commandBars_.end()};
+  return {commandBars.All().begin(), commandBars.All().end()};
+}
+
+std::shared_ptr<CommandBar> MemoryVbe::CommandBarOfName(std::string_view name) {
+  return commandBars.OfName(name);
+}
+
+std::shared_ptr<CommandBar> MemoryVbe::AddCommandBar(const NewCommandBar& bar) {
+  return commandBars.Add(bar);
+}
+
+std::shared_ptr<CommandBarControl> MemoryVbe::FindControl(int id) {
+  return commandBars.FindControl(id);
+}
+
+std::unique_ptr<CommandBarEvents> MemoryVbe::CommandBarEventsOf(
+    const std::shared_ptr<CommandBarControl>& control, ClickHandler onClick) {
+  return commandBars.EventsOf(*control, std::move(onClick));
 }
 
 void MemoryVbe::OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::string caption) {
@@ -35,8 +54,8 @@ void MemoryVbe::OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::strin
   window->SetFocus();
 }
 
-void MemoryVbe::AddCommandBar(std::shared_ptr<MemoryCommandBar> bar) {
-  commandBars_.push_back(std::move(bar));
+void MemoryVbe::AddCommandBar(const std::shared_ptr<MemoryCommandBar>& bar) {
+  commandBars.Add(bar);
 }
 
 MemoryVbe::Panes::iterator MemoryVbe::PaneOf(MemoryWindow& window) {

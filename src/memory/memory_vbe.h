@@ -9,7 +9,7 @@
 
 #include "environment/vbe.h"
 #include "memory/memory_code_pane.h"
-#include "memory/memory_command_bar.h"
+#include "memory/memory_command_bars.h"
 #include "memory/memory_project.h"
 #include "memory/memory_window.h"
 
@@ -18,10 +18,12 @@ namespace brimwork {
 class MemoryVbe : public VBE {
  public:
   static constexpr const char* kMainWindowCaption = "Visual Basic";
+  static constexpr const char* kMenuBarName = "Menu Bar";
 
   /// Starts with the main window and the menu bar.
-  explicit MemoryVbe(MemoryKeyboard& keyboard);
+  MemoryVbe(MemoryKeyboard& keyboard, const MemoryClipboard& clipboard);
 
+  std::string FullName() override { return fullName; }
   std::shared_ptr<CodePane> ActiveCodePane() override { return activePane_; }
   std::shared_ptr<VBProject> ActiveVBProject() override { return project_; }
   std::shared_ptr<Window> MainWindow() override { return mainWindow_; }
@@ -29,15 +31,23 @@ class MemoryVbe : public VBE {
   std::vector<std::shared_ptr<Window>> Windows() override;
   std::shared_ptr<Window> WindowOfCaption(std::string_view caption) override;
   std::vector<std::shared_ptr<CommandBar>> CommandBars() override;
+  std::shared_ptr<CommandBar> CommandBarOfName(std::string_view name) override;
+  std::shared_ptr<CommandBar> AddCommandBar(const NewCommandBar& bar) override;
+  std::shared_ptr<CommandBarControl> FindControl(int id) override;
+  std::unique_ptr<CommandBarEvents> CommandBarEventsOf(
+      const std::shared_ptr<CommandBarControl>& control, ClickHandler onClick) override;
 
   /// Opens a code window for the pane, which becomes the active one with the focus.
   void OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::string caption);
 
   void SetActivePane(std::shared_ptr<MemoryCodePane> pane) { activePane_ = std::move(pane); }
   void SetProject(std::shared_ptr<VBProject> project) { project_ = std::move(project); }
-  void AddCommandBar(std::shared_ptr<MemoryCommandBar> bar);
+  /// Takes in a bar of the environment's own.
+  void AddCommandBar(const std::shared_ptr<MemoryCommandBar>& bar);
 
   MemoryWindows windows;
+  MemoryCommandBars commandBars;
+  std::string fullName = "C:\\Program Files\\Microsoft Visual Studio\\VB98\\VB6.EXE";
 
  private:
   using Panes = std::vector<std::shared_ptr<MemoryCodePane>>;
@@ -50,7 +60,6 @@ class MemoryVbe : public VBE {
   std::shared_ptr<MemoryCodePane> activePane_;
   std::shared_ptr<VBProject> project_;
   std::shared_ptr<MemoryWindow> mainWindow_;
-  std::vector<std::shared_ptr<MemoryCommandBar>> commandBars_;
 };
 
 }  // namespace brimwork

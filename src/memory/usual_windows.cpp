@@ -1,19 +1,8 @@
 #include "memory/usual_windows.h"
 
-#include <string>
-#include <utility>
+#include "memory/usual_command_bars.h"
 
 namespace brimwork {
-namespace {
-
-std::shared_ptr<MemoryCommandBar> AddBar(MemoryVbe& vbe, std::string name) {
-  auto bar = std::make_shared<MemoryCommandBar>(std::move(name));
-  vbe.AddCommandBar(bar);
-  return bar;
-}
-
-}  // namespace
-
 UsualWindows AddUsualWindows(MemoryVbe& vbe) {
   UsualWindows usual;
   usual.project = vbe.windows.Add("Project - Project1", window_type::kProject);
@@ -26,10 +15,10 @@ UsualWindows AddUsualWindows(MemoryVbe& vbe) {
   usual.locals->SetVisible(false);
   usual.watch->SetVisible(false);
 
-  usual.standardBar = AddBar(vbe, "Standard");
-  usual.editBar = AddBar(vbe, "Edit");
-  usual.debugBar = AddBar(vbe, "Debug");
-  usual.debugBar->SetVisible(false);
+  const UsualCommandBars bars = AddUsualCommandBars(vbe);
+  usual.standardBar = bars.standard;
+  usual.editBar = bars.edit;
+  usual.debugBar = bars.debug;
   return usual;
 }
 

@@ -23,7 +23,8 @@ struct UsualWindows {
   std::shared_ptr<MemoryCommandBar> debugBar;  // hidden at first
 };
 
-/// Adds them to the environment, behind what it holds, and hands them back.
+/// Adds them and the usual command bars to the environment, behind what it holds, and hands them
+/// back.
 UsualWindows AddUsualWindows(MemoryVbe& vbe);
 
 }  // namespace brimwork

@@ -119,13 +119,13 @@ TEST_F(FullScreen, WindowsWithTheMainWindowsTypeStayVisibleWhateverTheMainWindow
 /// An environment whose main window bears the type of a tool window.
 class OddMainWindowVbe : public MemoryVbe {
  public:
-  explicit OddMainWindowVbe(MemoryKeyboard& keyboard) : MemoryVbe(keyboard) {}
+  using MemoryVbe::MemoryVbe;
   std::shared_ptr<Window> MainWindow() override { return oddMainWindow; }
   std::shared_ptr<MemoryWindow> oddMainWindow = windows.Add("Odd", kToolWindow);
 };
 
 TEST_F(FullScreen, TheMainWindowStaysVisibleWhateverItsTypeIs) {
-  OddMainWindowVbe vbe(memory.keyboard);
+  OddMainWindowVbe vbe(memory.keyboard, memory.clipboard);
   vbe.windows.Add("Tool", kToolWindow);
   Environment odd = memory.Parts({.vbe = &vbe});
   ToggleFullScreen(odd);
@@ -134,7 +134,7 @@ TEST_F(FullScreen, TheMainWindowStaysVisibleWhateverItsTypeIs) {
 }
 
 TEST_F(FullScreen, AnEnvironmentThatGivesNoMainWindowLosesItsToolWindowsOnly) {
-  OddMainWindowVbe vbe(memory.keyboard);
+  OddMainWindowVbe vbe(memory.keyboard, memory.clipboard);
   vbe.oddMainWindow = nullptr;
   Environment odd = memory.Parts({.vbe = &vbe});
   ToggleFullScreen(odd);

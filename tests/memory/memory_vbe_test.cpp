@@ -22,7 +22,7 @@ struct MemoryVbeTest : testing::Test {
 
   MemoryClipboard clipboard;
   MemoryKeyboard keyboard{clipboard};
-  MemoryVbe vbe{keyboard};
+  MemoryVbe vbe{keyboard, clipboard};
 };
 
 TEST_F(MemoryVbeTest, StartsWithTheMainWindowAndTheMenuBar) {

@@ -28,6 +28,7 @@ class CaptionedWindow : public Window {
 /// No module is open; the main window is there once a test has set it.
 class EmptyVbe : public VBE {
  public:
+  std::string FullName() override { return {}; }
   std::shared_ptr<CodePane> ActiveCodePane() override { return nullptr; }
   std::shared_ptr<VBProject> ActiveVBProject() override { return nullptr; }
   std::shared_ptr<Window> MainWindow() override { return mainWindow; }
@@ -35,6 +36,17 @@ class EmptyVbe : public VBE {
   std::vector<std::shared_ptr<Window>> Windows() override { return {}; }
   std::shared_ptr<Window> WindowOfCaption(std::string_view /*caption*/) override { return nullptr; }
   std::vector<std::shared_ptr<CommandBar>> CommandBars() override { return {}; }
+  std::shared_ptr<CommandBar> CommandBarOfName(std::string_view /*name*/) override {
+    return nullptr;
+  }
+  std::shared_ptr<CommandBar> AddCommandBar(const NewCommandBar& bar) override {
+    return std::make_shared<MemoryCommandBar>(bar);
+  }
+  std::shared_ptr<CommandBarControl> FindControl(int /*id*/) override { return nullptr; }
+  std::unique_ptr<CommandBarEvents> CommandBarEventsOf(
+      const std::shared_ptr<CommandBarControl>& /*control*/, ClickHandler /*onClick*/) override {
+    return std::make_unique<CommandBarEvents>();
+  }
 
   std::shared_ptr<Window> mainWindow;
 };

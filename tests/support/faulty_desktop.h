@@ -41,6 +41,9 @@ class FaultyClipboard : public Clipboard {
   void SetText(std::string_view text) override {
     calls_.Through("Clipboard.SetText", [&] { inner_.SetText(text); });
   }
+  void SetData(std::string_view picture) override {
+    calls_.Through("Clipboard.SetData", [&] { inner_.SetData(picture); });
+  }
   void Clear() override {
     calls_.Through("Clipboard.Clear", [&] { inner_.Clear(); });
   }

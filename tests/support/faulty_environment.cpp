@@ -36,6 +36,8 @@ struct FaultyEnvironment::Decorators {
         richTextBoxes(inner.richTextBoxes, calls),
         textFiles(inner.textFiles, calls),
         wordProcessors(inner.wordProcessors, calls),
+        shell(inner.shell, calls),
+        helpViewer(inner.helpViewer, calls),
         formHost(inner.formHost, calls) {}
 
   FaultyCalls calls;
@@ -58,6 +60,8 @@ struct FaultyEnvironment::Decorators {
   FaultyRichTextBoxes richTextBoxes;
   FaultyTextFiles textFiles;
   FaultyWordProcessors wordProcessors;
+  FaultyShell shell;
+  FaultyHelpViewer helpViewer;
   FaultyFormHost formHost;
 };
 
@@ -87,6 +91,8 @@ Environment FaultyEnvironment::Parts() {
           .richTextBoxes = all.richTextBoxes,
           .textFiles = all.textFiles,
           .wordProcessors = all.wordProcessors,
+          .shell = all.shell,
+          .helpViewer = all.helpViewer,
           .formHost = all.formHost};
 }
 
@@ -97,11 +103,18 @@ const std::vector<std::string_view>& FaultyEnvironment::Operations() const {
 bool FaultyEnvironment::RanAway() const { return decorators_->calls.RanAway(); }
 
 bool FaultyEnvironment::CanAnswerNothing(std::string_view operation) {
-  constexpr std::array<std::string_view, 10> kObjects = {
-      "VBE.ActiveCodePane",        "VBE.ActiveVBProject",         "VBE.MainWindow",
-      "VBE.ActiveWindow",          "VBE.WindowOfCaption",         "CodePane.Module",
-      "CodePane.ContainingWindow", "WordProcessors.CreateObject", "VBComponent.Module",
-      "FormScreen.ActiveForm"};
+  constexpr std::array<std::string_view, 12> kObjects = {"VBE.ActiveCodePane",
+                                                         "VBE.ActiveVBProject",
+                                                         "VBE.MainWindow",
+                                                         "VBE.ActiveWindow",
+                                                         "VBE.WindowOfCaption",
+                                                         "VBE.CommandBarOfName",
+                                                         "VBE.FindControl",
+                                                         "CodePane.Module",
+                                                         "CodePane.ContainingWindow",
+                                                         "WordProcessors.CreateObject",
+                                                         "VBComponent.Module",
+                                                         "FormScreen.ActiveForm"};
   return operation.starts_with("Registry.") ||
          std::find(kObjects.begin(), kObjects.end(), operation) != kObjects.end();
 }

@@ -1,5 +1,5 @@
-// What writes, formats and checks text, and windows by handle, with calls that fail: each operation
-// is counted, then handed on.
+// What writes, formats and checks text, windows by handle, and what opens outside of the add-in,
+// with calls that fail: each operation is counted, then handed on.
 #pragma once
 
 #include <memory>
@@ -139,6 +139,32 @@ class FaultyWordProcessors : public WordProcessors {
 
  private:
   WordProcessors& inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyShell : public Shell {
+ public:
+  FaultyShell(Shell& inner, FaultyCalls& calls) : inner_(inner), calls_(calls) {}
+  void ShellExecute(std::string_view verb, std::string_view file, std::string_view parameters,
+                    std::string_view directory) override {
+    calls_.Through("Shell.ShellExecute",
+                   [&] { inner_.ShellExecute(verb, file, parameters, directory); });
+  }
+
+ private:
+  Shell& inner_;
+  FaultyCalls& calls_;
+};
+
+class FaultyHelpViewer : public HelpViewer {
+ public:
+  FaultyHelpViewer(HelpViewer& inner, FaultyCalls& calls) : inner_(inner), calls_(calls) {}
+  void HtmlHelp(std::string_view path, std::uint32_t command, std::uint32_t data) override {
+    calls_.Through("HelpViewer.HtmlHelp", [&] { inner_.HtmlHelp(path, command, data); });
+  }
+
+ private:
+  HelpViewer& inner_;
   FaultyCalls& calls_;
 };
 

@@ -8,6 +8,7 @@
 
 #include "environment/vbe.h"
 #include "support/faulty_calls.h"
+#include "support/faulty_command_bars.h"
 #include "support/faulty_windows.h"
 
 namespace brimwork {
@@ -149,6 +150,9 @@ class FaultyVbe : public VBE {
  public:
   FaultyVbe(VBE& inner, FaultyCalls& calls) : inner_(inner), calls_(calls) {}
 
+  std::string FullName() override {
+    return calls_.Through("VBE.FullName", [&] { return inner_.FullName(); });
+  }
   std::shared_ptr<CodePane> ActiveCodePane() override {
     return calls_.ObjectThrough("VBE.ActiveCodePane", [&]() -> std::shared_ptr<CodePane> {
       auto pane = inner_.ActiveCodePane();
@@ -184,14 +188,41 @@ class FaultyVbe : public VBE {
   std::vector<std::shared_ptr<CommandBar>> CommandBars() override {
     return calls_.Through("VBE.CommandBars", [&] {
       std::vector<std::shared_ptr<CommandBar>> bars;
-      for (auto& bar : inner_.CommandBars()) {
-        bars.push_back(std::make_shared<FaultyCommandBar>(std::move(bar), calls_));
-      }
+      for (auto& bar : inner_.CommandBars()) bars.push_back(MakeFaulty(std::move(bar), calls_));
       return bars;
+    });
+  }
+  std::shared_ptr<CommandBar> CommandBarOfName(std::string_view name) override {
+    return calls_.ObjectThrough("VBE.CommandBarOfName",
+                                [&] { return MakeFaulty(inner_.CommandBarOfName(name), calls_); });
+  }
+  std::shared_ptr<CommandBar> AddCommandBar(const NewCommandBar& bar) override {
+    return calls_.Through("VBE.AddCommandBar",
+                          [&] { return MakeFaulty(inner_.AddCommandBar(bar), calls_); });
+  }
+  std::shared_ptr<CommandBarControl> FindControl(int id) override {
+    return calls_.ObjectThrough("VBE.FindControl",
+                                [&] { return MakeFaulty(inner_.FindControl(id), calls_); });
+  }
+  std::unique_ptr<CommandBarEvents> CommandBarEventsOf(
+      const std::shared_ptr<CommandBarControl>& control, ClickHandler onClick) override {
+    return calls_.Through("VBE.CommandBarEventsOf", [&] {
+      const auto faulty = std::dynamic_pointer_cast<FaultyCommandBarControl>(control);
+      return inner_.CommandBarEventsOf(faulty->Inner(), WithFaultyControl(onClick));
     });
   }
 
  private:
+  /// The clicked control comes to the handler with calls that fail, too.
+  ClickHandler WithFaultyControl(ClickHandler onClick) {
+    return [this, onClick](CommandBarControl& clicked) {
+      // Not owned: it lives as long as the click.
+      const std::shared_ptr<CommandBarControl> control(std::shared_ptr<void>(), &clicked);
+      FaultyCommandBarControl faulty(control, calls_);
+      onClick(faulty);
+    };
+  }
+
   VBE& inner_;
   FaultyCalls& calls_;
 };

@@ -1,5 +1,4 @@
-// The environment's windows and command bars with calls that fail: each operation is counted, then
-// handed on.
+// The environment's windows with calls that fail: each operation is counted, then handed on.
 #pragma once
 
 #include <memory>
@@ -45,24 +44,5 @@ class FaultyWindow : public Window {
 inline std::shared_ptr<Window> MakeFaulty(std::shared_ptr<Window> window, FaultyCalls& calls) {
   return window ? std::make_shared<FaultyWindow>(std::move(window), calls) : nullptr;
 }
-
-class FaultyCommandBar : public CommandBar {
- public:
-  FaultyCommandBar(std::shared_ptr<CommandBar> inner, FaultyCalls& calls)
-      : inner_(std::move(inner)), calls_(calls) {}
-  std::string Name() override {
-    return calls_.Through("CommandBar.Name", [&] { return inner_->Name(); });
-  }
-  bool Visible() override {
-    return calls_.Through("CommandBar.Visible", [&] { return inner_->Visible(); });
-  }
-  void SetVisible(bool visible) override {
-    calls_.Through("CommandBar.SetVisible", [&] { inner_->SetVisible(visible); });
-  }
-
- private:
-  std::shared_ptr<CommandBar> inner_;
-  FaultyCalls& calls_;
-};
 
 }  // namespace brimwork
