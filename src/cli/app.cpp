@@ -31,7 +31,7 @@ constexpr const char* kExamples =
     "  brimwork cleanup --write Shop.vbp        clean up every module of a project\n"
     "  brimwork indent --check src/             exit with 1 when a file would change\n"
     "  brimwork number --diff Form1.frm         show what would change\n"
-    "  brimwork export --format html Form1.frm  print the code as a web page\n"
+    "  brimwork export --format rtf Form1.frm   print the code as rich text\n"
     "  brimwork run \"Comment Procedure\" --line 40 Module1.bas\n"
     "\n"
     "Exit codes: 0 done, 1 --check or --list found something, 2 an error.";
@@ -89,9 +89,10 @@ constexpr SubcommandText kFriendlyCommands[] = {
      "  brimwork spell --diff Form1.frm          ask, then show the changes only\n"
      "  brimwork spell --list Shop.vbp           list words as FILE:LINE:COLUMN\n"
      "  brimwork spell --replace teh=the --write src/\n"
-     "  brimwork spell --dictionary de_DE --dictionary en_US Module1.bas\n"
      "\n"
-     "Words that you add are kept in words.txt beside the settings file."},
+     "Of several dictionaries (--dictionary de_DE --dictionary en_US), one must have\n"
+     "the word. --replace needs none. The words that you add are kept in words.txt\n"
+     "beside the settings file."},
 };
 
 /// Everything that one parse of the command line leaves behind.

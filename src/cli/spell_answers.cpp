@@ -50,8 +50,9 @@ SpellAnswer ParseSpellAnswer(std::string_view line, const std::vector<std::strin
   if (letter == "R") return Replacing(Kind::kReplaceAll, rest, suggestions);
   const Kind kind = rest.empty() ? KindOf(letter) : Kind::kNone;
   if (kind != Kind::kNone) return {kind, {}};
-  return {Kind::kNone, answer.empty() ? std::string("type an answer")
-                                      : "there is no answer \"" + std::string(answer) + '"'};
+  const bool isShort = !answer.empty() && answer.size() < 20;
+  return {Kind::kNone, isShort ? "there is no answer \"" + std::string(answer) + '"'
+                               : std::string("that is no answer")};
 }
 
 std::optional<std::string> ProblemOfReplacement(std::string_view text,

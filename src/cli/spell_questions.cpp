@@ -37,7 +37,7 @@ bool SpellQuestions::CanBeTaken(const SpellAnswer& answer, const MisspelledWord&
   if (answer.kind == Kind::kReplace || answer.kind == Kind::kReplaceAll) {
     problem = ProblemOfReplacement(answer.text, word.encoding);
   }
-  if (problem) terminal_.show("  " + *problem + "; ? shows what you can answer\n");
+  if (problem) terminal_.show("  " + *problem + " (? for help)\n");
   return !problem;
 }
 

@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <stdlib.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <array>
@@ -51,6 +52,21 @@ std::string ReadAll(int descriptor) {
   }
 }
 
+/// A terminal that shows only what is written to it, not what is typed.
+void OpenTerminal(int& program, int& user) {
+  Checked(openpty(&user, &program, nullptr, nullptr, nullptr), "openpty");
+  fcntl(user, F_SETFD, FD_CLOEXEC);
+  termios settings{};
+  Checked(tcgetattr(program, &settings), "tcgetattr");
+  settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  Checked(tcsetattr(program, TCSANOW, &settings), "tcsetattr");
+}
+
+void Type(int terminal, const std::string& input) {
+  const std::string typed = input + '\x04';
+  Checked(static_cast<int>(write(terminal, typed.data(), typed.size())), "write");
+}
+
 std::string ReadFromStart(int file) {
   Checked(static_cast<int>(lseek(file, 0, SEEK_SET)), "lseek");
   return ReadAll(file);
@@ -92,14 +108,15 @@ bool HasPseudoTerminal() {
 
 RunningProgram::RunningProgram(const ProgramCall& call) {
   int terminalEnd = -1;
-  if (call.outIsTerminal || call.errorIsTerminal) {
-    Checked(openpty(&terminal_, &terminalEnd, nullptr, nullptr, nullptr), "openpty");
-    fcntl(terminal_, F_SETFD, FD_CLOEXEC);
+  if (call.inputIsTerminal || call.outIsTerminal || call.errorIsTerminal) {
+    OpenTerminal(terminalEnd, terminal_);
   }
+  if (call.inputIsTerminal) Type(terminal_, call.input);
   out_ = NamelessFile();
   error_ = NamelessFile();
   const int input = FileHolding(call.input);
-  const std::array<int, 3> streams{input, call.outIsTerminal ? terminalEnd : out_,
+  const std::array<int, 3> streams{call.inputIsTerminal ? terminalEnd : input,
+                                   call.outIsTerminal ? terminalEnd : out_,
                                    call.errorIsTerminal ? terminalEnd : error_};
   std::vector<std::string> words = call.words;
   std::vector<std::string> variables = Assignments(call.variables);

@@ -17,7 +17,9 @@ struct ProgramCall {
   std::filesystem::path folder;    // where it is started
   std::map<std::string, std::string> variables;  // its whole environment
 
-  // A stream that is a terminal is no file: what is written to it comes back all the same.
+  // A stream that is a terminal is no file. The input, whole lines, is typed on it beforehand, the
+  // end of the input behind it; what is written to it comes back, without what was typed.
+  bool inputIsTerminal = false;
   bool outIsTerminal = false;
   bool errorIsTerminal = false;
 };
