@@ -5,7 +5,7 @@
 set -euo pipefail
 
 build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libdtl-dev libhunspell-dev)
-test=(libgtest-dev libgmock-dev patch git locales hunspell-en-us)
+test=(libgtest-dev libgmock-dev patch git locales hunspell-en-us unrtf chromium)
 bench=(libbenchmark-dev time highlight enscript python3-pygments)
 
 Fail() {

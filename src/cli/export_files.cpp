@@ -43,7 +43,8 @@ std::string TargetPath(const ExportRequest& request, const InputFile& input) {
   const std::string& output = *request.output;
   std::error_code unknown;
   if (!output.ends_with('/') && !fs::is_directory(output, unknown)) return output;
-  return fs::path(output) / ExportName(SourceName(input, request.run), request.format.extension);
+  return fs::path(output) /
+         ExportName(SourceName(input.path, request.run), request.format.extension);
 }
 
 /// The path in the file's folder; Quick Export has a backslash before its name.
@@ -77,6 +78,8 @@ class OneFileExport {
   }
 
  private:
+  bool MakesFolder() const { return request_.output && request_.output->ends_with('/'); }
+
   ExportTarget CheckedTargetAt(const std::string& path) {
     return CheckedTargets({path}, {input_}, request_.mayReplace).front();
   }
@@ -84,11 +87,7 @@ class OneFileExport {
   ExportTarget CheckedTarget() {
     const std::string path = TargetPath(request_, input_);
     const std::string folder = fs::path(path).parent_path();
-    if (request_.output->ends_with('/')) {
-      MakeFolder(folder);
-    } else if (!folder.empty()) {
-      RequireFolder(folder, "make it first");
-    }
+    if (!MakesFolder() && !folder.empty()) RequireFolder(folder, "make it first");
     return CheckedTargetAt(path);
   }
 
@@ -104,6 +103,7 @@ class OneFileExport {
       console_.Out(module.bytes);
       return;
     }
+    if (MakesFolder()) MakeFolder(*request_.output);
     WriteTarget(*target, module.bytes);
     console_.Note(path_ + ": exported to " + target->path);
   }
@@ -120,6 +120,7 @@ int ExportFiles(const ExportRequest& request, Console& console) {
   RequirePaths(request.run);
   const Inputs inputs = CollectAndTell(request.run, console);
   CheckFilesAndPlace(request, inputs);
+  if (inputs.files.empty()) return inputs.errors.empty() ? exit_code::kDone : exit_code::kError;
   const int exitCode = inputs.namesOneFile
                            ? OneFileExport(request, inputs.files.front(), console).Run()
                            : ExportToFolder(request, inputs, console);

@@ -6,6 +6,7 @@
 
 #include "cli/app.h"
 #include "cli/export_index.h"
+#include "cli/export_job.h"
 #include "cli/export_names.h"
 #include "cli/export_targets.h"
 #include "cli/file_queue.h"
@@ -19,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kIndexName = "index.htm";
-constexpr const char* kStandardInputName = "stdin";
 
 /// What came of one file, to be told in the order of the files.
 struct Outcome {
@@ -52,7 +52,8 @@ class FolderExport {
  private:
   std::vector<std::string> NamesOf(const Inputs& inputs) const {
     std::vector<std::string> sources;
-    for (const InputFile& input : inputs.files) sources.push_back(SourceName(input, request_.run));
+    for (const InputFile& input : inputs.files)
+      sources.push_back(SourceName(input.path, request_.run));
     return ExportNames(sources, request_.format.extension, hasIndex_ ? kIndexName : "");
   }
 
@@ -142,24 +143,7 @@ int ExportToFolder(const ExportRequest& request, const Inputs& inputs, Console& 
   if (fs::exists(*request.output, unknown)) {
     RequireFolder(*request.output, "more than one file needs a folder to write to");
   }
-  if (inputs.files.empty()) return inputs.errors.empty() ? exit_code::kDone : exit_code::kError;
   return FolderExport(request, inputs, console).Run();
-}
-
-std::string SourceName(const InputFile& input, const RunOptions& options) {
-  if (input.path == kStandardInputPath && options.stdinFileName.empty()) return kStandardInputName;
-  return fs::path(ShownPath(input.path, options)).filename();
-}
-
-std::string LinesAndEncoding(const std::string& path, const ExportedModule& module) {
-  return path + ": " + std::to_string(module.lines) + (module.lines == 1 ? " line" : " lines") +
-         ", read as " + module.encoding;
-}
-
-void MakeFolder(const std::string& path) {
-  std::error_code error;
-  fs::create_directories(path, error);
-  if (error) throw SourceError(path, "the folder cannot be made: " + error.message());
 }
 
 }  // namespace brimwork

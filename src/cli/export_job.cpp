@@ -113,4 +113,9 @@ ExportedModule ExportModule(const ExportRequest& request, const InputFile& input
   return result;
 }
 
+std::string LinesAndEncoding(const std::string& path, const ExportedModule& module) {
+  return path + ": " + std::to_string(module.lines) + (module.lines == 1 ? " line" : " lines") +
+         ", read as " + module.encoding;
+}
+
 }  // namespace brimwork

@@ -25,4 +25,7 @@ struct ExportedModule {
 ExportedModule ExportModule(const ExportRequest& request, const InputFile& input,
                             const std::function<void(const frmInfo&)>& showProgress);
 
+/// "path: 12 lines, read as UTF-8".
+std::string LinesAndEncoding(const std::string& path, const ExportedModule& module);
+
 }  // namespace brimwork

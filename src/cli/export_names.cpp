@@ -4,6 +4,8 @@
 #include <map>
 #include <set>
 
+#include "cli/inputs.h"
+#include "cli/source_input.h"
 #include "environment/text.h"
 
 namespace brimwork {
@@ -22,6 +24,11 @@ std::string TakeFreeName(const std::string& source, const std::string& extension
 }
 
 }  // namespace
+
+std::string SourceName(const std::string& path, const RunOptions& options) {
+  if (path == kStandardInputPath && options.stdinFileName.empty()) return "stdin";
+  return std::filesystem::path(ShownPath(path, options)).filename();
+}
 
 std::string ExportName(const std::string& source, std::string_view extension) {
   return std::filesystem::path(source).stem().string().append(extension);

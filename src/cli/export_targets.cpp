@@ -1,6 +1,7 @@
 #include "cli/export_targets.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 
 #include "memory/source_error.h"
@@ -25,14 +26,17 @@ void RefuseSources(const ExportTarget& target, const std::vector<InputFile>& sou
   }
 }
 
+std::string AndOthers(std::ptrdiff_t others) {
+  if (others == 0) return "; --force replaces it";
+  if (others == 1) return ", and so is another; --force replaces them";
+  return ", and so are " + std::to_string(others) + " others; --force replaces them";
+}
+
 void RefuseToReplace(const std::vector<ExportTarget>& targets) {
   const auto isThere = [](const ExportTarget& target) { return target.replaced.has_value(); };
   const auto first = std::ranges::find_if(targets, isThere);
   const auto others = std::ranges::count_if(targets, isThere) - 1;
-  throw SourceError(first->path, others == 0
-                                     ? std::string("the file is already there; --force replaces it")
-                                     : "the file is already there, and so are " +
-                                           std::to_string(others) + " more; --force replaces them");
+  throw SourceError(first->path, "the file is already there" + AndOthers(others));
 }
 
 }  // namespace
@@ -58,6 +62,12 @@ void WriteTarget(const ExportTarget& target, std::string_view bytes) {
   } else {
     CreateWholeFile(target.path, compose);
   }
+}
+
+void MakeFolder(const std::string& path) {
+  std::error_code error;
+  std::filesystem::create_directories(path, error);
+  if (error) throw SourceError(path, "the folder cannot be made: " + error.message());
 }
 
 void RequireFolder(const std::string& path, const std::string& whatToDo) {

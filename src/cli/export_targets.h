@@ -24,6 +24,9 @@ std::vector<ExportTarget> CheckedTargets(const std::vector<std::string>& paths,
 /// Writes the file whole or not at all. Throws SourceError.
 void WriteTarget(const ExportTarget& target, std::string_view bytes);
 
+/// Makes a folder and those around it where they are missing. Throws SourceError.
+void MakeFolder(const std::string& path);
+
 /// Throws SourceError, with what to do, when there is no such folder.
 void RequireFolder(const std::string& path, const std::string& whatToDo);
 

@@ -24,6 +24,7 @@ const std::vector<Words>& AllSubcommands() {
                                               {"header"},
                                               {"timestamp"},
                                               {"spell"},
+                                              {"export"},
                                               {"commands"},
                                               {"settings"},
                                               {"settings", "list"},
