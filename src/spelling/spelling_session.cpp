@@ -36,7 +36,7 @@ std::vector<std::string> LikeliestOf(const std::vector<std::vector<std::string>>
 SpellingSession::SpellingSession(std::vector<Dictionary> dictionaries,
                                  std::filesystem::path userWords)
     : dictionaries_(std::move(dictionaries)), userWords_(std::move(userWords)) {
-  for (const std::string& word : ReadUserWords(userWords_)) known_.Add(word);
+  for (const std::string& word : ReadUserWords(userWords_)) IgnoreAll(word);
 }
 
 std::vector<Misspelling> SpellingSession::Misspellings(std::string_view text) {
@@ -102,12 +102,14 @@ const std::vector<std::string>& SpellingSession::Suggestions(const std::string& 
   return entry->second;
 }
 
-void SpellingSession::ReplaceAll(const std::string& word, const std::string& replacement) {
-  replacements_.insert_or_assign(word, replacement);
+void SpellingSession::IgnoreAll(std::string_view word) { known_.Add(LookedUpForm(word)); }
+
+void SpellingSession::ReplaceAll(std::string_view word, const std::string& replacement) {
+  replacements_.insert_or_assign(LookedUpForm(word), replacement);
 }
 
 void SpellingSession::AddToUserWords(const std::string& word) {
-  known_.Add(word);
+  IgnoreAll(word);
   AddUserWord(userWords_, word);
 }
 

@@ -41,10 +41,10 @@ class SpellingSession {
   const std::vector<std::string>& Suggestions(const std::string& word);
 
   /// Takes the word for right from now on.
-  void IgnoreAll(std::string_view word) { known_.Add(word); }
+  void IgnoreAll(std::string_view word);
 
   /// From now on the word, in exactly these letters, has a replacement.
-  void ReplaceAll(const std::string& word, const std::string& replacement);
+  void ReplaceAll(std::string_view word, const std::string& replacement);
 
   /// Takes the word for right and writes it into the file of the user's words. Throws
   /// UserWordsError; the word is right for this run all the same.

@@ -140,6 +140,14 @@ TEST_F(SpellingSessionTest, LooksTypographicApostrophesUpAsPlainOnes) {
   EXPECT_THAT(WrongIn(session, "don’t don't"), IsEmpty());
 }
 
+TEST_F(SpellingSessionTest, TakesDecisionsOnWordsWithTypographicApostrophes) {
+  SpellingSession session = Session({"the"});
+  session.ReplaceAll("dont’t", "don't");
+  session.IgnoreAll("isn’t");
+  EXPECT_THAT(ReplacedIn(session, "dont’t dont't isn’t isn't"),
+              ElementsAre(Pair("dont’t", "don’t"), Pair("dont't", "don't")));
+}
+
 TEST_F(SpellingSessionTest, KnowsTheUsersOwnWords) {
   AddUserWord(folder / "words.txt", "Vantrel");
   SpellingSession session = Session({"the"});
