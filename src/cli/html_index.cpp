@@ -19,10 +19,11 @@ table { width: 100%; border-collapse: collapse; }
 th, td { padding: .45rem .75rem; text-align: left; vertical-align: baseline;
   border-bottom: 1px solid rgba(128, 128, 128, .35); }
 th { border-bottom-width: 2px; }
-td { overflow-wrap: anywhere; }
+th:first-child, td:first-child { padding-left: 0; overflow-wrap: break-word; }
+th:last-child, td:last-child { padding-right: 0; }
 .lines { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
-.file { font-family: "Courier New", "Liberation Mono", monospace; font-size: .9em; }
-tbody tr:hover { background: rgba(128, 128, 128, .12); }
+.file { font-family: "Courier New", "Liberation Mono", monospace; font-size: .9em;
+  overflow-wrap: anywhere; }
 a { color: #000080; font-weight: 600; text-decoration: none; }
 a:hover, a:focus { text-decoration: underline; }
 @media (prefers-color-scheme: dark) { a { color: #9db4ff; } }
