@@ -111,8 +111,9 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 }
 
 int CharacterCount(std::string_view text) {
-  int count = 0;
-  for (const char c : text) count += !IsContinuationByte(c);
+  const std::size_t ascii = FindNonAscii(text, 0);
+  int count = static_cast<int>(ascii);
+  for (const char c : text.substr(ascii)) count += !IsContinuationByte(c);
   return count;
 }
 

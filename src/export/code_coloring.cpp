@@ -56,17 +56,27 @@ void CodeColoring::Take() {
 }
 
 void CodeColoring::AddToWord() {
+  if (lettersStart_ != kNoLetters) return;
+  lettersStart_ = at_.byte;
   if (word_.empty()) wordStart_ = at_.character;
-  word_ += text_[at_.byte];
+}
+
+/// The letters so far belong to the word, whatever comes next.
+void CodeColoring::Interrupt() {
+  if (lettersStart_ == kNoLetters) return;
+  word_.append(text_, lettersStart_, at_.byte - lettersStart_);
+  lettersStart_ = kNoLetters;
 }
 
 void CodeColoring::SkipLiteral() {
+  Interrupt();
   const auto closing = text_.find('"', at_.byte + 1);
   if (closing == std::string::npos) RefuseOpenLiteral();
   at_ = PlaceOf(closing);
 }
 
 void CodeColoring::ColorComment() {
+  Interrupt();
   const auto lineEnd = text_.find("\r\n", at_.byte);
   const Place end = PlaceOf(lineEnd == std::string::npos ? text_.size() - 1 : lineEnd);
   Select(work_, at_.character - 1, end.character - at_.character);
@@ -75,6 +85,7 @@ void CodeColoring::ColorComment() {
 }
 
 void CodeColoring::CheckWord() {
+  Interrupt();
   if (word_.empty()) return;
   if (const auto spelling = keywords_.SpellingOf(word_)) {
     Select(work_, wordStart_ - 1, static_cast<int>(word_.size()));

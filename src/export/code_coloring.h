@@ -19,6 +19,8 @@ class CodeColoring {
   void Run();
 
  private:
+  static constexpr std::size_t kNoLetters = std::string::npos;
+
   /// A place in the text: the character's number from 1, and its byte.
   struct Place {
     int character = 1;
@@ -27,6 +29,7 @@ class CodeColoring {
 
   void Take();
   void AddToWord();
+  void Interrupt();
   void SkipLiteral();
   void ColorComment();
   void CheckWord();
@@ -40,7 +43,10 @@ class CodeColoring {
   int length_;        // in characters
   bool isAscii_;
   Place at_;
+  // The word that is being gathered: what came in front of a literal or comment, and the letters
+  // right in front of here.
   std::string word_;
+  std::size_t lettersStart_ = kNoLetters;
   int wordStart_ = 0;  // character, from 1
 };
 

@@ -1,5 +1,9 @@
 #include "export/html_lines.h"
 
+#include <array>
+
+#include "environment/text.h"
+
 namespace brimwork {
 namespace {
 
@@ -7,61 +11,80 @@ constexpr std::string_view kKeywordOpenTag = "<font color=\"#000080\">";
 constexpr std::string_view kCommentOpenTag = "<font color=\"#008000\">";
 constexpr std::string_view kCloseTag = "</font>";
 
+/// Where the characters from at on end that go into a word as they are.
+std::size_t PlainEnd(std::string_view line, std::size_t at) {
+  static constexpr auto kIsPlain = [] {
+    std::array<bool, 256> isPlain{};
+    for (std::size_t c = 0; c < isPlain.size(); ++c) {
+      isPlain[c] = !IsOneOf(static_cast<char>(c), " \"&<>");
+    }
+    return isPlain;
+  }();
+  while (at < line.size() && kIsPlain[static_cast<unsigned char>(line[at])]) ++at;
+  return at;
+}
+
 }  // namespace
 
 std::string_view HtmlLines::Convert(std::string_view line) {
   outLine_.clear();
-  for (const char c : line) {
-    if (c == ' ') {
+  wordStart_ = 0;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    const std::size_t end = PlainEnd(line, at);
+    AddToWord(line.substr(at, end - at));
+    at = end;
+    if (at == line.size()) break;
+    if (line[at] == ' ') {
       CloseWord();
     } else {
-      AddToWord(c);
+      AddEscaped(line[at]);
     }
   }
   EndComment();
   return outLine_;
 }
 
-void HtmlLines::AddToWord(char c) {
+void HtmlLines::AddEscaped(char c) {
   switch (c) {
     case '"':
       inString_ = !inString_;
-      word_ += "&quot;";
+      outLine_ += "&quot;";
       break;
     case '&':
-      word_ += "&amp;";
+      outLine_ += "&amp;";
       break;
     case '<':
-      word_ += "&lt;";
+      outLine_ += "&lt;";
       break;
     case '>':
-      word_ += "&gt;";
+      outLine_ += "&gt;";
       break;
-    default:
-      word_ += c;
   }
 }
 
 void HtmlLines::CloseWord() {
-  if (word_.starts_with('\'')) OpenComment();
+  if (Word().starts_with('\'')) OpenComment();
   if (!inComment_) ColorKeyword();
-  outLine_.append(word_).append(" ");
-  word_.clear();
+  outLine_ += ' ';
+  wordStart_ = outLine_.size();
 }
 
-// The tags are put straight into the line: they stand in front of the word, the last one first.
+void HtmlLines::PutBeforeWord(std::string_view tag) {
+  outLine_.insert(wordStart_, tag);
+  wordStart_ += tag.size();
+}
 
 void HtmlLines::OpenComment() {
-  if (keywordOpen_) outLine_ += kCloseTag;
+  if (keywordOpen_) PutBeforeWord(kCloseTag);
   keywordOpen_ = false;
-  if (!inComment_) outLine_ += kCommentOpenTag;
+  if (!inComment_) PutBeforeWord(kCommentOpenTag);
   inComment_ = true;
 }
 
 void HtmlLines::ColorKeyword() {
-  const bool isKeyword = !inString_ && keywords_.Holds(word_);
+  const bool isKeyword = !inString_ && keywords_.Holds(Word());
   if (isKeyword == keywordOpen_) return;
-  outLine_ += isKeyword ? kKeywordOpenTag : kCloseTag;
+  PutBeforeWord(isKeyword ? kKeywordOpenTag : kCloseTag);
   keywordOpen_ = isKeyword;
 }
 

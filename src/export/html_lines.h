@@ -18,15 +18,18 @@ class HtmlLines {
   std::string_view Convert(std::string_view line);
 
  private:
-  void AddToWord(char c);
+  void AddToWord(std::string_view plain) { outLine_ += plain; }
+  void AddEscaped(char c);
   void CloseWord();
+  void PutBeforeWord(std::string_view tag);
+  std::string_view Word() const { return std::string_view(outLine_).substr(wordStart_); }
   void OpenComment();
   void ColorKeyword();
   void EndComment();
 
   KeywordList& keywords_;
-  std::string outLine_;
-  std::string word_;  // escaped
+  std::string outLine_;  // ends in the word that is being gathered, escaped
+  std::size_t wordStart_ = 0;
   bool inComment_ = false;
   bool keywordOpen_ = false;
   bool inString_ = false;

@@ -25,6 +25,11 @@ std::size_t FormatRuns::IndexAt(std::size_t byte) const {
   return static_cast<std::size_t>(next - runs_.begin()) - 1;
 }
 
+bool FormatRuns::IsUniform(ByteRange range) const {
+  const std::size_t next = IndexAt(range.start) + 1;
+  return next == runs_.size() || range.end <= runs_[next].start;
+}
+
 TextFormat FormatRuns::Unpacked(const PackedFormat& format) const {
   TextFormat unpacked{FontName(format.font), format.halfPoints, {}};
   if (format.color != PackedFormat::kAutomatic) unpacked.color = format.color;

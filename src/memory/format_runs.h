@@ -62,6 +62,9 @@ class FormatRuns {
   /// Index of the run that holds a byte.
   std::size_t IndexAt(std::size_t byte) const;
 
+  /// Whether one run holds the whole range.
+  bool IsUniform(ByteRange range) const;
+
   TextFormat Unpacked(const PackedFormat& format) const;
 
   const std::string& FontName(std::uint16_t font) const { return fonts_[font]; }

@@ -11,8 +11,12 @@ int LineStarts::Count(std::string_view text) {
 
 int LineStarts::LineAt(std::string_view text, std::size_t byte) {
   LookThrough(text);
-  const auto next = std::upper_bound(starts_.begin(), starts_.end(), byte);
-  return static_cast<int>(next - starts_.begin()) - 1;
+  if (!Holds(last_, byte)) ++last_;
+  if (!Holds(last_, byte)) {
+    const auto next = std::upper_bound(starts_.begin(), starts_.end(), byte);
+    last_ = static_cast<std::size_t>(next - starts_.begin()) - 1;
+  }
+  return static_cast<int>(last_);
 }
 
 std::size_t LineStarts::Start(std::string_view text, int line) {
@@ -23,6 +27,11 @@ std::size_t LineStarts::Start(std::string_view text, int line) {
 void LineStarts::Forget(std::size_t byte) {
   while (starts_.back() > byte) starts_.pop_back();
   seen_ = std::min(seen_, byte);
+}
+
+bool LineStarts::Holds(std::size_t line, std::size_t byte) const {
+  return line < starts_.size() && starts_[line] <= byte &&
+         (line + 1 == starts_.size() || byte < starts_[line + 1]);
 }
 
 void LineStarts::LookThrough(std::string_view text) {

@@ -25,9 +25,12 @@ class LineStarts {
 
  private:
   void LookThrough(std::string_view text);
+  bool Holds(std::size_t line, std::size_t byte) const;
 
   std::vector<std::uint32_t> starts_{0};
   std::size_t seen_ = 0;  // bytes looked through
+  std::size_t last_ =
+      0;  // the line asked for last; a caret mostly stays there or moves to the next
 };
 
 }  // namespace brimwork

@@ -10,54 +10,82 @@
 namespace brimwork {
 
 void MemoryRichTextBox::SetText(std::string_view text) {
+  unread_ = nullptr;
   content_.SetText(text);
   selection_ = {};
 }
 
 void MemoryRichTextBox::SetSelStart(int position) {
-  selection_ = {std::clamp(position, 0, content_.Size()), 0};
+  selection_ = {std::clamp(position, 0, Content().Size()), 0};
 }
 
 void MemoryRichTextBox::SetSelLength(int length) {
-  selection_.length = std::clamp(length, 0, content_.Size() - selection_.start);
+  selection_.length = std::clamp(length, 0, Content().Size() - selection_.start);
 }
 
 void MemoryRichTextBox::SetSelText(std::string_view text) {
-  selection_ = {content_.Replace(selection_, text), 0};
+  selection_ = {Edited().Replace(selection_, text), 0};
 }
 
-std::string MemoryRichTextBox::SelRTF() { return WriteRtf(content_, selection_); }
+std::string MemoryRichTextBox::SelRTF() {
+  const auto written = std::make_shared<const std::string>(RichTextBytes(selection_));
+  lastWritten_->text = written;
+  return *written;
+}
 
 void MemoryRichTextBox::SetTextRTF(std::string_view richText) {
-  content_ = ReadRtf(richText);
+  if (richText == *lastWritten_->text) {
+    unread_ = lastWritten_->text;
+  } else {
+    content_ = ReadRtf(richText);
+    unread_ = nullptr;
+  }
   selection_ = {};
 }
 
 void MemoryRichTextBox::SaveFile(std::string_view path, SaveAs type) {
-  files_.Write(path, type == SaveAs::kRichText ? RichTextBytes() : PlainTextBytes(path));
+  if (type == SaveAs::kPlainText) {
+    files_.Write(path, PlainTextBytes(path));
+  } else {
+    files_.Write(path, unread_ ? *unread_ : RichTextBytes({0, content_.Size()}));
+  }
+}
+
+const RichText& MemoryRichTextBox::Content() const {
+  if (unread_) content_ = ReadRtf(*std::exchange(unread_, nullptr));
+  return content_;
+}
+
+RichText& MemoryRichTextBox::Edited() {
+  Content();
+  return content_;
 }
 
 int MemoryRichTextBox::LineLength(int position) {
-  return CharacterCount(content_.Line(content_.LineAt(position)));
+  return CharacterCount(Content().Line(Content().LineAt(position)));
 }
 
 std::string MemoryRichTextBox::Line(int line) {
   if (line < 0 || line >= LineCount()) return {};
-  return std::string(content_.Line(line));
+  return std::string(Content().Line(line));
 }
 
 /// Characters by which the codec tells byte forms apart mean nothing to other programs: these get
 /// what the characters look like.
-std::string MemoryRichTextBox::RichTextBytes() {
+std::string MemoryRichTextBox::RichTextBytes(TextRange range) {
   const TextCodec& codec = files_.Codec();
-  if (codec.ForDisplay(content_.Text()) == content_.Text()) return WriteRtf(content_);
-  return WriteRtf(content_.Changed([&](std::string_view text) { return codec.ForDisplay(text); }));
+  const RichText& content = Content();
+  if (codec.ForDisplay(content.Text()) == content.Text()) return WriteRtf(content, range);
+  const RichText shown =
+      content.Changed([&](std::string_view text) { return codec.ForDisplay(text); });
+  const bool isWhole = range.start == 0 && range.length == content.Size();
+  return isWhole ? WriteRtf(shown) : WriteRtf(shown, range);
 }
 
 std::string MemoryRichTextBox::PlainTextBytes(std::string_view path) {
   try {
     std::string buffer;
-    return std::string(files_.Codec().Encode(content_.Text(), buffer));
+    return std::string(files_.Codec().Encode(Content().Text(), buffer));
   } catch (const TextCodecError& error) {
     throw RunTimeError(error_number::kInvalidProcedureCall,
                        std::string(path) + ": " + error.what());

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "environment/rich_text_box.h"
 #include "memory/memory_text_files.h"
@@ -10,15 +11,25 @@
 
 namespace brimwork {
 
+/// The rich text that a control wrote last. Handed to another control as it stands it needs no
+/// reading before that one saves it.
+struct WrittenRichText {
+  std::shared_ptr<const std::string> text = std::make_shared<std::string>();
+};
+
 /// Formatting without a selection does nothing, unless there is no text: what comes into the
 /// control next takes the format.
 class MemoryRichTextBox : public RichTextBox {
  public:
-  MemoryRichTextBox(WindowHandle handle, MemoryTextFiles& files) : handle_(handle), files_(files) {}
+  /// lastWritten: shared by the controls that hand rich text to each other.
+  MemoryRichTextBox(
+      WindowHandle handle, MemoryTextFiles& files,
+      std::shared_ptr<WrittenRichText> lastWritten = std::make_shared<WrittenRichText>())
+      : handle_(handle), files_(files), lastWritten_(std::move(lastWritten)) {}
 
   WindowHandle hWnd() override { return handle_; }
 
-  std::string Text() override { return content_.Text(); }
+  std::string Text() override { return Content().Text(); }
   void SetText(std::string_view text) override;
 
   int SelStart() override { return selection_.start; }
@@ -26,9 +37,9 @@ class MemoryRichTextBox : public RichTextBox {
   int SelLength() override { return selection_.length; }
   void SetSelLength(int length) override;
 
-  void SetSelColor(Color color) override { content_.SetColor(selection_, color); }
-  void SetSelFontName(std::string_view name) override { content_.SetFontName(selection_, name); }
-  void SetSelFontSize(int points) override { content_.SetFontSize(selection_, points); }
+  void SetSelColor(Color color) override { Edited().SetColor(selection_, color); }
+  void SetSelFontName(std::string_view name) override { Edited().SetFontName(selection_, name); }
+  void SetSelFontSize(int points) override { Edited().SetFontSize(selection_, points); }
   void SetSelText(std::string_view text) override;
 
   std::string SelRTF() override;
@@ -38,24 +49,25 @@ class MemoryRichTextBox : public RichTextBox {
 
   void SetWordWrap(bool wraps) override { wraps_ = wraps; }
 
-  int LineCount() override { return content_.LineCount(); }
-  int LineFromCaret() override { return content_.LineAt(selection_.start); }
-  int LineIndexOfCaret() override { return content_.LineStart(LineFromCaret()); }
+  int LineCount() override { return Content().LineCount(); }
+  int LineFromCaret() override { return Content().LineAt(selection_.start); }
+  int LineIndexOfCaret() override { return Content().LineStart(LineFromCaret()); }
   int LineLength(int position) override;
   std::string Line(int line) override;
 
-  // For tests.
-
-  const RichText& Content() const { return content_; }
+  const RichText& Content() const;
   bool WrapsWords() const { return wraps_; }
 
  private:
-  std::string RichTextBytes();
+  RichText& Edited();
+  std::string RichTextBytes(TextRange range);
   std::string PlainTextBytes(std::string_view path);
 
   WindowHandle handle_;
   MemoryTextFiles& files_;
-  RichText content_;
+  std::shared_ptr<WrittenRichText> lastWritten_;
+  mutable RichText content_;
+  mutable std::shared_ptr<const std::string> unread_;  // what content_ is still to be read from
   TextRange selection_;
   bool wraps_ = true;
 };
@@ -64,13 +76,14 @@ class MemoryRichTextBoxes : public RichTextBoxes {
  public:
   explicit MemoryRichTextBoxes(MemoryTextFiles& files) : files_(files) {}
   std::unique_ptr<RichTextBox> Create() override {
-    return std::make_unique<MemoryRichTextBox>(nextHandle_++, files_);
+    return std::make_unique<MemoryRichTextBox>(nextHandle_++, files_, lastWritten_);
   }
 
  private:
   static constexpr WindowHandle kFirstHandle = 0x100;
   WindowHandle nextHandle_ = kFirstHandle;
   MemoryTextFiles& files_;
+  std::shared_ptr<WrittenRichText> lastWritten_ = std::make_shared<WrittenRichText>();
 };
 
 }  // namespace brimwork

@@ -24,6 +24,18 @@ std::size_t PlainEnd(std::string_view text, std::size_t at) {
   return at;
 }
 
+/// Whether every line end of text is CR LF already.
+bool HasCrLfOnly(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const auto carriageReturn = text.find('\r', at);
+    const auto lineFeed = text.find('\n', at);
+    if (carriageReturn == std::string_view::npos) return lineFeed == std::string_view::npos;
+    if (lineFeed != carriageReturn + 1) return false;
+    at = lineFeed + 1;
+  }
+  return true;
+}
+
 /// Appends the line end that text starts with; returns its size there.
 std::size_t AppendLineEnd(std::string& result, std::string_view text) {
   result += "\r\n";
@@ -44,6 +56,7 @@ std::size_t AppendCharacter(std::string& result, std::string_view text) {
 }  // namespace
 
 std::string WithLineEnds(std::string_view text) {
+  if (FindNonAscii(text, 0) == text.size() && HasCrLfOnly(text)) return std::string(text);
   std::string result;
   result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
@@ -74,6 +87,9 @@ int RichText::Replace(TextRange range, std::string_view text) {
   const ByteRange bytes = BytesOf(range);
   RequireRoom(text_.size() - bytes.Size() + added.size());
   const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
+  if (removed == added && formats_.IsUniform(bytes)) {
+    return positions_.PositionOf(text_, bytes.end);
+  }
   const bool linesStay =
       removed.size() == added.size() && !Contains(removed, "\n") && !Contains(added, "\n");
   if (!linesStay) lines_.Forget(bytes.start);
