@@ -21,6 +21,9 @@ namespace brimwork {
 namespace {
 
 constexpr const char* kUsersClipboard = "what the user copied";
+constexpr const char* kExported = "C:\\Exported";
+constexpr const char* kDesktop = "C:\\Desktop";
+constexpr const char* kQuickExported = "C:\\Desktop\\Exported Code.txt";
 
 struct Sample {
   std::string name;
@@ -86,6 +89,9 @@ class Click {
                               "TabWidth", 2);
     memory_.settingsArea.SaveSetting("Brimwork", "Settings", "ErrorHandling",
                                      "' in CURRENTFULLPROCEDUREPATH");
+    memory_.settingsArea.SaveSetting("Brimwork", "Settings", "KeyWordList", "If,Then,End,Sub,Long");
+    memory_.shellFolders.SetPath(0, kDesktop);
+    memory_.dialogs.SaveTo(kExported);
     memory_.clipboard.SetText(kUsersClipboard);
     const int lineEnd = CharacterCount(pane_->Module()->Lines(sample.caretLine, 1)) + 1;
     pane_->SetSelection({sample.caretLine, lineEnd, sample.caretLine, lineEnd});
@@ -109,6 +115,7 @@ class Click {
     if (!raised_.empty()) return "raised an error: " + raised_;
     if (faulty_.RanAway()) return "does not come to an end";
     if (addIn_.progressWindow.Visible()) return "leaves the progress window";
+    if (HasHalfAFile()) return "leaves half a file";
     const auto lost = FirstLostLine(sample_.text, Text());
     return lost ? "lost the line: " + *lost : "";
   }
@@ -132,7 +139,23 @@ class Click {
     return "";
   }
 
+  bool HasFile() const {
+    return memory_.textFiles.Exists(kExported) || memory_.textFiles.Exists(kQuickExported);
+  }
+
  private:
+  /// A web page and rich text say where they end; plain text is the module's or, of an empty
+  /// selection, nothing.
+  bool HasHalfAFile() const {
+    if (!HasFile()) return false;
+    const std::string bytes =
+        memory_.textFiles.BytesOf(kExported) + memory_.textFiles.BytesOf(kQuickExported);
+    if (bytes.starts_with("<pre>")) return !bytes.ends_with("</pre>\r\n");
+    if (bytes.starts_with("{\\rtf1")) return !bytes.ends_with("}") && !bytes.ends_with("}\r\n");
+    const std::string module = pane_->Module()->Lines(1, pane_->Module()->CountOfLines());
+    return !bytes.empty() && SplitLines(bytes).size() != SplitLines(module).size();
+  }
+
   const Sample& sample_;
   MemoryEnvironment memory_;
   std::shared_ptr<MemoryCodePane> pane_;
@@ -181,7 +204,9 @@ TEST(FaultSweep, RunsEveryCommandOverEverySampleUnharmedWithoutFaults) {
        {"CodeModule.ReplaceLine", "CodeModule.InsertLines", "CodeModule.DeleteLines",
         "CodePane.SetSelection", "Screen.LockWindowUpdate", "Clipboard.SetText",
         "Keyboard.SendKeys", "MessageLoop.DoEvents", "Registry.CloseKey", "VBProject.Name",
-        "SettingsArea.GetSetting", "Clock.GeneralDate", "Clock.ShortDate"}) {
+        "SettingsArea.GetSetting", "Clock.GeneralDate", "Clock.ShortDate",
+        "Dialogs.GetSaveFileName", "OutputFile.Close", "RichTextBox.SaveFile",
+        "RichTextBox.SetSelColor", "WordProcessor.CutSelection"}) {
     EXPECT_TRUE(operations.contains(operation)) << operation;
   }
 }
