@@ -138,7 +138,7 @@ struct NewCommandBar {
 
 using ClickHandler = std::function<void(CommandBarControl& clicked)>;
 
-/// The binding of a control's clicks to a handler, for as long as it lives.
+/// The binding of a control's clicks to a handler, for as long as it lives. The handler may end it.
 class CommandBarEvents {
  public:
   virtual ~CommandBarEvents() = default;

@@ -54,14 +54,15 @@ struct WindowArea {
   int top = 0;
   int width = 0;
   int height = 0;
+  bool operator==(const WindowArea&) const = default;
 };
 
 /// The window that CreateWindowEx is to make.
 struct NewWindow {
-  std::string className;
-  std::string text;
+  std::string className = {};
+  std::string text = {};
   std::uint32_t style = 0;  // a sum of window_style::k...
-  WindowArea area;
+  WindowArea area = {};
   WindowHandle parent = 0;
   InstanceHandle instance = 0;
 };

@@ -1,5 +1,7 @@
-// The message loop as plain data: no window waits for messages, so they are only counted.
+// The message loop as plain data: its runs are counted, and a test says what happens in them.
 #pragma once
+
+#include <functional>
 
 #include "environment/desktop.h"
 
@@ -7,9 +9,15 @@ namespace brimwork {
 
 class MemoryMessageLoop : public MessageLoop {
  public:
-  void DoEvents() override { ++count_; }
+  void DoEvents() override {
+    ++count_;
+    if (onDoEvents) onDoEvents();
+  }
 
   int Count() const { return count_; }
+
+  /// What the messages that wait do; may be empty.
+  std::function<void()> onDoEvents;
 
  private:
   int count_ = 0;

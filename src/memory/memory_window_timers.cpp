@@ -13,6 +13,7 @@ TimerId MemoryWindowTimers::SetTimer(WindowHandle window, TimerId id, std::uint3
     return 0;
   }
   KillTimer(window, id);
+  started_.push_back({window, id, milliseconds});
   const std::uint32_t interval = std::max(milliseconds, kShortestInterval);
   timers_.push_back({window, id, interval, now_ + interval, std::move(procedure)});
   return id;

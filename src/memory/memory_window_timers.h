@@ -39,6 +39,17 @@ class MemoryWindowTimers : public WindowTimers {
   /// Lets time pass without looking at the timers.
   void SetNow(std::uint32_t time) { now_ = time; }
 
+  /// A timer as it was asked for.
+  struct StartedTimer {
+    WindowHandle window = 0;
+    TimerId id = 0;
+    std::uint32_t milliseconds = 0;
+    bool operator==(const StartedTimer&) const = default;
+  };
+
+  /// Every timer that was ever set, in the order of the calls.
+  const std::vector<StartedTimer>& Started() const { return started_; }
+
   /// How many timers are set.
   std::size_t Count() const { return timers_.size(); }
 
@@ -60,6 +71,7 @@ class MemoryWindowTimers : public WindowTimers {
 
   MemoryNativeWindows& windows_;
   Timers timers_;
+  std::vector<StartedTimer> started_;
   std::uint32_t now_ = 0;
   TimerId latestOwnId_ = 0;
 };

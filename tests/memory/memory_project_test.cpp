@@ -1,0 +1,64 @@
+// A project's components in memory.
+#include "memory/memory_project.h"
+
+#include <gtest/gtest.h>
+
+#include "environment/run_time_error.h"
+
+namespace brimwork {
+namespace {
+
+struct MemoryProjectTest : testing::Test {
+  MemoryProject project{[] { return std::string("Stock"); }};
+};
+
+TEST_F(MemoryProjectTest, StartsWithoutComponents) {
+  EXPECT_EQ(project.Name(), "Stock");
+  EXPECT_TRUE(project.VBComponents().empty());
+}
+
+TEST_F(MemoryProjectTest, AddsStandardModulesUnderNamesThatAreFree) {
+  project.AddModule("module1", "x = 1");
+  EXPECT_EQ(project.AddVBComponent(component_type::kStandardModule)->Name(), "Module2");
+  EXPECT_EQ(project.AddVBComponent(component_type::kStandardModule)->Name(), "Module3");
+  EXPECT_EQ(project.VBComponents().size(), 3u);
+}
+
+TEST_F(MemoryProjectTest, WritesALineIntoNewModulesWhereTheUserWantsIt) {
+  EXPECT_EQ(project.AddVBComponent(1)->Module()->CountOfLines(), 0);
+  project.requiresDeclarations = true;
+  const auto module = project.AddVBComponent(1)->Module();
+  EXPECT_EQ(module->CountOfLines(), 1);
+  EXPECT_EQ(module->Lines(1, 1), "Option Explicit");
+}
+
+TEST_F(MemoryProjectTest, AddsNoOtherKindOfComponent) {
+  EXPECT_THROW(project.AddVBComponent(5), RunTimeError);
+  EXPECT_TRUE(project.VBComponents().empty());
+}
+
+TEST_F(MemoryProjectTest, AComponentsNewNameIsThatOfItsModule) {
+  const auto component = project.AddVBComponent(1);
+  component->SetName("modStock");
+  EXPECT_EQ(component->Name(), "modStock");
+  EXPECT_EQ(component->Module()->Name(), "modStock");
+  EXPECT_EQ(component->Type(), 1);
+  EXPECT_EQ(project.ComponentOfName("MODSTOCK"), component);
+}
+
+TEST_F(MemoryProjectTest, AComponentMayNotHaveAnothersName) {
+  project.AddModule("modStock", "");
+  const auto component = project.AddVBComponent(1);
+  try {
+    component->SetName("ModStock");
+    FAIL() << "no error was raised";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.Number(), error_number::kNameConflict);
+  }
+  EXPECT_EQ(component->Name(), "Module1");
+  component->SetName("module1");
+  EXPECT_EQ(component->Name(), "module1");
+}
+
+}  // namespace
+}  // namespace brimwork
