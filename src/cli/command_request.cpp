@@ -1,7 +1,7 @@
 #include "cli/command_request.h"
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 #include <vector>
 
 #include "cli/near_miss.h"
@@ -39,6 +39,15 @@ constexpr FriendlyName kFriendlyNames[] = {
 constexpr std::string_view kWindowCommands[] = {"Full Screen", "Clear Immediate Window",
                                                 "Close Windows"};
 
+/// What these open are forms, help and web pages of the add-in.
+constexpr std::string_view kOpeningCommands[] = {"MsgBox Creator", "Contents",
+                                                 "Index",          "Configure Brimwork",
+                                                 "About Brimwork", "Vantrel Web Site"};
+
+bool IsAmong(std::span<const std::string_view> captions, std::string_view caption) {
+  return std::ranges::find(captions, caption) != captions.end();
+}
+
 bool IsInCatalogue(std::string_view caption) {
   return std::ranges::any_of(Catalogue(),
                              [&](const CatalogueEntry& entry) { return entry.caption == caption; });
@@ -62,16 +71,19 @@ bool NeedsPlace(std::string_view caption) {
          caption != kSpellCheckCaption;
 }
 
-/// Refuses the commands that leave no module behind: those that make another file of it, and those
-/// on windows.
+/// Refuses the commands that leave no module behind: those that make another file of it, those on
+/// windows, and those that open something.
 void CheckResult(std::string_view caption) {
   if (IsExport(caption)) {
     throw UsageError(Quoted(caption) + " makes another file of the module: run brimwork " +
                      std::string(CommandNameOf(caption)));
   }
-  if (ActsOnWindows(caption)) {
+  if (IsAmong(kWindowCommands, caption)) {
     throw UsageError(Quoted(caption) +
                      " acts on the environment's windows, and the command line has none");
+  }
+  if (IsAmong(kOpeningCommands, caption)) {
+    throw UsageError(Quoted(caption) + " opens a window, and the command line has none");
   }
 }
 
@@ -93,9 +105,6 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
   CheckResult(caption);
   const bool onModule = HasCommand(caption, true);
   const bool atPlace = HasCommand(caption, false);
-  if (!onModule && !atPlace) {
-    throw UsageError("the command line has no command " + Quoted(caption) + " in this version");
-  }
   if (place.IsGiven() && !atPlace) {
     throw UsageError(Quoted(caption) +
                      " works on the whole module: leave out --line and --procedure");
@@ -110,8 +119,8 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
 
 bool IsExport(std::string_view caption) { return CommandNameOf(caption).starts_with("export "); }
 
-bool ActsOnWindows(std::string_view caption) {
-  return std::ranges::find(kWindowCommands, caption) != std::end(kWindowCommands);
+bool NeedsTheEditor(std::string_view caption) {
+  return IsAmong(kWindowCommands, caption) || IsAmong(kOpeningCommands, caption);
 }
 
 std::string_view CaptionOf(std::string_view commandName) {

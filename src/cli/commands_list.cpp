@@ -29,10 +29,10 @@ std::string_view WorksOn(std::string_view caption) {
   if (caption == kSpellCheckCaption) return "module";
   if (caption == "Insert Time Stamp") return "line";
   if (IsExport(caption)) return "module or lines";
-  if (ActsOnWindows(caption)) return "in the editor only";
+  if (NeedsTheEditor(caption)) return "in the editor only";
   if (onModule && atPlace) return "module or procedure";
   if (onModule) return "module";
-  return atPlace ? "procedure" : "in the editor only";
+  return "procedure";
 }
 
 std::string Padded(std::string_view text, std::size_t width) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
+#include "core/add_in_forms.h"
 #include "core/frmInfo.h"
 #include "environment/resume_next.h"
 #include "transform/context.h"
@@ -26,6 +28,7 @@ struct AddIn {
   Environment environment;
   Context context;
   frmInfo progressWindow{environment};
+  std::unique_ptr<AddInForms> forms;  // null where there is nobody to see them
   std::function<void(const RunTimeError&)> onSkippedError;
 };
 

@@ -1,6 +1,9 @@
 #include "core/catalogue.h"
 
-#include <array>
+#include <algorithm>
+#include <iterator>
+
+#include "environment/command_bar.h"
 
 namespace brimwork {
 namespace {
@@ -85,8 +88,30 @@ constexpr CatalogueEntry kEntries[] = {
 };
 // clang-format on
 
+constexpr int kPopupsFirstEntry = 23;
+
+constexpr BuiltInEntry kBuiltInEntries[] = {
+    {control_id::kCommentBlock, kPopupsFirstEntry},
+    {control_id::kUncommentBlock, kPopupsFirstEntry},
+};
+
+struct Submenu {
+  EntryPlace place;
+  std::string_view caption;
+  bool operator==(const Submenu&) const = default;
+};
+
+constexpr Submenu kGroupOpeners[] = {
+    {kMenu, kAddHeader}, {kMenu, kHelp}, {kPopup, kExportSelected}};
+
 }  // namespace
 
 std::span<const CatalogueEntry> Catalogue() { return kEntries; }
+
+std::span<const BuiltInEntry> BuiltInEntries() { return kBuiltInEntries; }
+
+bool OpensGroup(EntryPlace place, std::string_view submenu) {
+  return std::ranges::find(kGroupOpeners, Submenu{place, submenu}) != std::end(kGroupOpeners);
+}
 
 }  // namespace brimwork

@@ -22,7 +22,19 @@ struct CatalogueEntry {
   bool beginGroup;           // a separator stands above it
 };
 
+/// One of the environment's own commands, which stands among the entries of a submenu.
+struct BuiltInEntry {
+  int id;             // control_id::k...
+  int behindHandler;  // the entry that it follows
+};
+
 /// All entries in building order: Add-Ins menu, pop-up menus, toolbar.
 std::span<const CatalogueEntry> Catalogue();
+
+/// In building order.
+std::span<const BuiltInEntry> BuiltInEntries();
+
+/// Whether a separator stands above a submenu.
+bool OpensGroup(EntryPlace place, std::string_view submenu);
 
 }  // namespace brimwork

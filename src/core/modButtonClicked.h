@@ -5,6 +5,7 @@
 
 #include "core/add_in.h"
 #include "core/catalogue.h"
+#include "environment/command_bar.h"
 
 namespace brimwork {
 
@@ -18,11 +19,7 @@ void ButtonClicked(AddIn& addIn, std::string_view caption, bool wholeModule);
 bool HasCommand(std::string_view caption, bool wholeModule);
 
 /// What a click on an entry does: the hourglass where the entry asks for it, and the command of the
-/// caption that the clicked control bears.
-void HandleClick(AddIn& addIn, const CatalogueEntry& entry, std::string_view caption);
-
-/// The kind word for a procedure's exit statement: "Sub" when its declaration contains "Sub", else
-/// "Function" when it contains "Function", else "Property".
-std::string_view KindWordOf(std::string_view declaration);
+/// caption that the clicked control bears. Raises no run-time error.
+void HandleClick(AddIn& addIn, const CatalogueEntry& entry, CommandBarControl& clicked);
 
 }  // namespace brimwork

@@ -53,8 +53,13 @@ TEST(CommandRequest, ComparesCaptionsExactly) {
   EXPECT_THAT(ErrorOf("", {}), HasSubstr("brimwork commands"));
 }
 
-TEST(CommandRequest, RefusesWhatOnlyTheEditorCanDo) {
-  EXPECT_THAT(ErrorOf("Contents", {}), HasSubstr("\"Contents\""));
+TEST(CommandRequest, RefusesWhatOpensAWindow) {
+  for (const std::string caption : {"MsgBox Creator", "Contents", "Index", "Configure Brimwork",
+                                    "About Brimwork", "Vantrel Web Site"}) {
+    const std::string expected = '"' + caption + "\" opens a window, and the command line has none";
+    EXPECT_EQ(ErrorOf(caption, {}), expected);
+    EXPECT_EQ(ErrorOf(caption, AtLine(1)), expected);
+  }
 }
 
 TEST(CommandRequest, RefusesWhatActsOnWindows) {

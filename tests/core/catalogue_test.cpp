@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brimwork {
@@ -163,6 +164,25 @@ TEST(Catalogue, ThreeEntriesOpenAGroup) {
     if (entry.beginGroup) handlers.insert(entry.handler);
   }
   EXPECT_EQ(handlers, (std::set<int>{34, 62, 64}));
+}
+
+TEST(Catalogue, ThreeSubmenusOpenAGroup) {
+  std::set<std::pair<EntryPlace, std::string>> openers;
+  for (const CatalogueEntry& entry : Catalogue()) {
+    if (OpensGroup(entry.place, entry.submenu)) openers.emplace(entry.place, entry.submenu);
+  }
+  EXPECT_EQ(openers, (std::set<std::pair<EntryPlace, std::string>>{
+                         {EntryPlace::kAddInsMenu, "Add Header"},
+                         {EntryPlace::kAddInsMenu, "Help"},
+                         {EntryPlace::kCodeWindowPopup, "Export Selected Code"}}));
+}
+
+TEST(Catalogue, TheEnvironmentsBlockCommandsFollowTheCodeWindowsFirstEntry) {
+  std::vector<std::pair<int, int>> builtIns;
+  for (const BuiltInEntry& builtIn : BuiltInEntries()) {
+    builtIns.emplace_back(builtIn.id, builtIn.behindHandler);
+  }
+  EXPECT_THAT(builtIns, ElementsAre(std::pair(192, 23), std::pair(2552, 23)));
 }
 
 TEST(Catalogue, EntriesOfOneCaptionBearOneFace) {

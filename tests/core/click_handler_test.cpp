@@ -3,6 +3,7 @@
 
 #include "core/modButtonClicked.h"
 #include "environment/run_time_error.h"
+#include "support/click.h"
 #include "support/opened_module.h"
 
 namespace brimwork {
@@ -52,7 +53,7 @@ struct ClickHandler : testing::Test {
     screen.AddWindow(MemoryVbe::kMainWindowCaption, 1);
   }
 
-  void Click(int handler) { HandleClick(addIn, EntryOf(handler), EntryOf(handler).caption); }
+  void ClickOn(int handler) { Click(addIn, EntryOf(handler), EntryOf(handler).caption); }
   TextLines Lines() { return LinesOf(*memory.vbe.ActiveCodePane()->Module()); }
 
   MemoryEnvironment memory;
@@ -62,14 +63,14 @@ struct ClickHandler : testing::Test {
 };
 
 TEST_F(ClickHandler, ShowsTheHourglassWhileTheCommandRunsAndThenTheDefaultPointer) {
-  Click(4);
+  ClickOn(4);
   EXPECT_THAT(keyboard.pointers, ElementsAre(mouse_pointer::kHourglass));
   EXPECT_THAT(screen.shown, ElementsAre(mouse_pointer::kHourglass, mouse_pointer::kDefault));
 }
 
 TEST_F(ClickHandler, RestoresThePointerWhenTheCommandFails) {
   keyboard.refuses = true;
-  Click(4);
+  ClickOn(4);
   EXPECT_THAT(screen.shown, ElementsAre(mouse_pointer::kHourglass, mouse_pointer::kDefault));
 }
 
@@ -77,7 +78,7 @@ TEST_F(ClickHandler, EveryEntryWithTheHourglassStartsWithItAndEndsWithTheDefault
   for (const CatalogueEntry& entry : Catalogue()) {
     if (!entry.hourglass) continue;
     screen.shown.clear();
-    HandleClick(addIn, entry, entry.caption);
+    Click(addIn, entry, entry.caption);
     ASSERT_THAT(screen.shown, testing::Not(IsEmpty())) << entry.handler;
     EXPECT_EQ(screen.shown.front(), mouse_pointer::kHourglass) << entry.handler;
     EXPECT_EQ(screen.shown.back(), mouse_pointer::kDefault) << entry.handler;
@@ -87,30 +88,41 @@ TEST_F(ClickHandler, EveryEntryWithTheHourglassStartsWithItAndEndsWithTheDefault
 TEST_F(ClickHandler, AnEntryWithoutTheHourglassLeavesThePointerAlone) {
   const CatalogueEntry noHourglass = EntryOf(9);
   ASSERT_FALSE(noHourglass.hourglass);
-  HandleClick(addIn, noHourglass, "Insert Time Stamp");
+  Click(addIn, noHourglass, "Insert Time Stamp");
   EXPECT_THAT(keyboard.pointers, SizeIs(1));
   EXPECT_THAT(screen.shown, IsEmpty());
 }
 
 TEST_F(ClickHandler, RunsTheCommandOfTheCaptionThatTheClickedControlBears) {
-  HandleClick(addIn, EntryOf(1), "Insert Time Stamp");
+  Click(addIn, EntryOf(1), "Insert Time Stamp");
   EXPECT_THAT(keyboard.pointers, SizeIs(1));
   EXPECT_THAT(Lines(), ElementsAre("Sub A()", "x = 1", "End Sub"));
+}
+
+TEST_F(ClickHandler, DoesNothingAndRestoresThePointerWhenTheCaptionCannotBeRead) {
+  MemoryCommandBars bars(memory.clipboard);
+  const auto deleted = bars.Add({.name = "Bar"})->Controls()->Add({});
+  deleted->Delete();
+  HandleClick(addIn, EntryOf(1), *deleted);
+  EXPECT_THAT(screen.shown, ElementsAre(mouse_pointer::kHourglass, mouse_pointer::kDefault));
+  EXPECT_THAT(Lines(), ElementsAre("Sub A()", "x = 1", "End Sub"));
+  HandleClick(addIn, EntryOf(9), *deleted);
+  EXPECT_THAT(screen.shown, SizeIs(2));
 }
 
 TEST_F(ClickHandler, TakesTheWholeModuleFlagFromItsEntry) {
   memory.Open("Module2", ModuleText::FromText(
                              "Sub A()\r\nx = 1\r\nEnd Sub\r\nSub B()\r\ny = 1\r\nEnd Sub\r\n"));
-  Click(32);
+  ClickOn(32);
   EXPECT_THAT(Lines(),
               ElementsAre("Sub A()", "2:         x = 1", "End Sub", "Sub B()", "y = 1", "End Sub"));
-  Click(53);
+  ClickOn(53);
   EXPECT_THAT(Lines(), ElementsAre("Sub A()", "2:         x = 1", "End Sub", "Sub B()",
                                    "5:         y = 1", "End Sub"));
 }
 
 TEST_F(ClickHandler, ACaptionWithoutACommandDoesNothing) {
-  HandleClick(addIn, EntryOf(1), "Added By Hand");
+  Click(addIn, EntryOf(1), "Added By Hand");
   EXPECT_THAT(Lines(), ElementsAre("Sub A()", "x = 1", "End Sub"));
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
 }
@@ -121,7 +133,7 @@ TEST_F(ClickHandler, WithoutACodeSourceEveryCodeCommandTellsTheUserExactlyOnce) 
   memory.vbe.SetActivePane(nullptr);
   std::size_t told = 0;
   for (const int handler : {1, 2, 3, 5, 6, 21, 22, 53, 54, 32, 33}) {
-    Click(handler);
+    ClickOn(handler);
     EXPECT_THAT(memory.dialogs.Messages(), SizeIs(++told)) << handler;
     EXPECT_EQ(screen.MousePointer(), mouse_pointer::kDefault) << handler;
     EXPECT_FALSE(addIn.progressWindow.Visible()) << handler;

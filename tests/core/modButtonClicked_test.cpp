@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "core/code_commands.h"
 #include "support/opened_module.h"
 
 namespace brimwork {
@@ -57,6 +58,12 @@ TEST(ButtonClicked, ActsOnTheProcedureAtTheCaretOnly) {
 }
 
 // The kind word of the exit statement.
+
+TEST(ButtonClicked, HasACommandForEveryEntry) {
+  for (const CatalogueEntry& entry : Catalogue()) {
+    EXPECT_TRUE(HasCommand(entry.caption, entry.wholeModule)) << entry.handler;
+  }
+}
 
 TEST(ButtonClicked, ADeclarationThatHoldsNeitherSubNorFunctionIsTakenForAProperty) {
   EXPECT_EQ(AfterClickAt(1, "Insert Error Handling", {"Property Get A()", "End Property"})[3],

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/modButtonClicked.h"
+#include "support/click.h"
 
 namespace brimwork {
 namespace {
@@ -41,7 +42,7 @@ std::vector<DispatchedCommand> EveryCommand() {
 
 void Run(AddIn& addIn, const DispatchedCommand& command) {
   if (command.entry != nullptr) {
-    HandleClick(addIn, *command.entry, command.caption);
+    Click(addIn, *command.entry, command.caption);
   } else {
     ButtonClicked(addIn, command.caption, command.wholeModule);
   }
