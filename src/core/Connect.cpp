@@ -18,10 +18,10 @@ bool IsOn(Environment& environment, std::string_view key) {
 }
 
 void ShowSplash(AddIn& addIn) {
-  Form& splash = addIn.forms->Splash();
+  frmSplash& splash = addIn.forms->splash;
   SetTopMost(addIn.environment, splash.hWnd(), true);
   splash.Show();
-  addIn.forms->StartSplashTimer();
+  splash.Timer1.Enabled = true;
 }
 
 void Unload(Form& form) {
@@ -31,10 +31,10 @@ void Unload(Form& form) {
 void UnloadForms(AddIn& addIn) {
   Unload(addIn.progressWindow);
   if (!addIn.forms) return;
-  Unload(addIn.forms->SetupDialog());
-  Unload(addIn.forms->CodeViewer());
-  Unload(addIn.forms->MessageBoxDesigner());
-  Unload(addIn.forms->Splash());
+  Unload(addIn.forms->setupDialog);
+  Unload(addIn.forms->codeViewer);
+  Unload(addIn.forms->messageBoxDesigner);
+  Unload(addIn.forms->splash);
 }
 
 }  // namespace
@@ -53,8 +53,8 @@ void Connect::AddinInstance_OnConnection(const Environment& application) {
 void Connect::StartUp() {
   const auto addIn = addIn_;
   const auto menus = menus_;
-  addIn->forms = makeForms_(addIn->environment);
-  addIn->forms->Splash().Load();
+  addIn->forms = std::make_unique<AddInForms>(addIn->environment);
+  addIn->forms->splash.Load();
   if (IsOn(addIn->environment, setting::kSplashScreen)) ShowSplash(*addIn);
   addIn->progressWindow.Load();
   menus->BuildToolbar();

@@ -2,9 +2,7 @@
 // started, and when it disconnects the add-in.
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <utility>
 
 #include "core/add_in.h"
 #include "core/menus.h"
@@ -15,10 +13,7 @@ namespace brimwork {
 /// several times; each connection builds everything anew.
 class Connect {
  public:
-  using MakeForms = std::function<std::unique_ptr<AddInForms>(const Environment&)>;
-
-  /// makeForms: makes the forms of a connection.
-  explicit Connect(MakeForms makeForms) : makeForms_(std::move(makeForms)) {}
+  Connect() = default;
   Connect(const Connect&) = delete;
   Connect& operator=(const Connect&) = delete;
 
@@ -46,7 +41,6 @@ class Connect {
   bool RunMessages(AddIn& addIn);
   void ReopenProject(Environment& environment);
 
-  MakeForms makeForms_;
   std::shared_ptr<AddIn> addIn_;
   std::shared_ptr<Menus> menus_;
   bool usesOwnTemplates_ = false;

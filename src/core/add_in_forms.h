@@ -1,23 +1,21 @@
-// The add-in's forms, but for the progress window, as far as connection and commands use them.
+// The add-in's forms, but for the progress window.
 #pragma once
 
-#include "environment/form.h"
+#include "core/frmSplash.h"
+#include "msgbox/frmCode.h"
+#include "msgbox/frmMsgBox.h"
+#include "settings/frmSetup.h"
 
 namespace brimwork {
 
-/// Each form is made once and loaded when it is first shown.
-class AddInForms {
- public:
-  virtual ~AddInForms() = default;
+/// Made with a connection; each form is loaded when it is first shown.
+struct AddInForms {
+  explicit AddInForms(const Environment& environment);
 
-  /// Also the about box.
-  virtual Form& Splash() = 0;
-  /// From when it has ticked, the splash form goes by itself. The form has to be loaded.
-  virtual void StartSplashTimer() = 0;
-
-  virtual Form& SetupDialog() = 0;
-  virtual Form& CodeViewer() = 0;
-  virtual Form& MessageBoxDesigner() = 0;
+  frmSetup setupDialog;
+  frmCode codeViewer;
+  frmMsgBox messageBoxDesigner;
+  frmSplash splash;  // also the about box
 };
 
 }  // namespace brimwork

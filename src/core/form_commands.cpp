@@ -6,9 +6,10 @@
 namespace brimwork {
 namespace {
 
-void ShowForm(AddIn& addIn, Form& (AddInForms::*form)()) {
+template <auto form>
+void ShowForm(AddIn& addIn) {
   addIn.Attempt([&] {
-    if (addIn.forms) (*addIn.forms.*form)().Show();
+    if (addIn.forms) ((*addIn.forms).*form).Show();
   });
 }
 
@@ -21,11 +22,11 @@ void OpenHelp(AddIn& addIn, HelpOperation open) {
 
 }  // namespace
 
-void ShowMessageBoxDesigner(AddIn& addIn) { ShowForm(addIn, &AddInForms::MessageBoxDesigner); }
+void ShowMessageBoxDesigner(AddIn& addIn) { ShowForm<&AddInForms::messageBoxDesigner>(addIn); }
 
-void ShowSetupDialog(AddIn& addIn) { ShowForm(addIn, &AddInForms::SetupDialog); }
+void ShowSetupDialog(AddIn& addIn) { ShowForm<&AddInForms::setupDialog>(addIn); }
 
-void ShowAboutBox(AddIn& addIn) { ShowForm(addIn, &AddInForms::Splash); }
+void ShowAboutBox(AddIn& addIn) { ShowForm<&AddInForms::splash>(addIn); }
 
 void OpenHelpContents(AddIn& addIn) { OpenHelp(addIn, ShowHelpContents); }
 

@@ -10,25 +10,38 @@ namespace brimwork {
 WindowHandle MemoryFormHost::Load(Form& form) {
   while (windows_.IsWindow(nextHandle_)) ++nextHandle_;
   windows_.windows[nextHandle_].systemMenu = {{kCloseCommand, 0}};
-  loaded_.push_back({&form, nextHandle_});
+  loaded_.push_back({&form, nextHandle_, form.Layout().name});
+  Note("load ", loaded_.back());
   for (const Control* control : form.Controls()) waited_.erase(control);
   return nextHandle_;
 }
 
 void MemoryFormHost::Show(Form& form, ShowMode mode) {
-  if (FormWindow* const window = WindowOf(form)) window->shown = mode;
+  if (FormWindow* const window = WindowOf(form)) {
+    window->shown = mode;
+    Note("show ", *window);
+  }
   if (mode == ShowMode::kModal && playModalUser) playModalUser(form);
 }
 
 void MemoryFormHost::Hide(Form& form) {
-  if (FormWindow* const window = WindowOf(form)) window->shown.reset();
+  if (FormWindow* const window = WindowOf(form)) {
+    window->shown.reset();
+    Note("hide ", *window);
+  }
 }
 
 void MemoryFormHost::Unload(Form& form) {
   FormWindow* const window = WindowOf(form);
   if (window == nullptr) return;
+  Note("unload ", *window);
   windows_.windows.erase(window->handle);
   loaded_.erase(loaded_.begin() + (window - loaded_.data()));
+  if (onUnload) onUnload();
+}
+
+void MemoryFormHost::Note(std::string_view event, const FormWindow& window) {
+  events.push_back(std::string(event).append(window.name));
 }
 
 // A timer that is set anew waits a whole interval again.

@@ -5,6 +5,8 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "environment/form.h"
@@ -49,16 +51,25 @@ class MemoryFormHost : public FormHost {
   std::function<void(Form&, Control*, PropertyId)> onChange;
   std::function<void(Form&, Control&)> onRefresh;
 
+  /// What has happened to forms, in order: "load frmInfo", "show frmInfo", "hide frmInfo", "unload
+  /// frmInfo". May be emptied.
+  std::vector<std::string> events;
+
+  /// Called when a form has been unloaded; may be empty.
+  std::function<void()> onUnload;
+
  private:
   struct FormWindow {
     Form* form = nullptr;
     WindowHandle handle = 0;
+    std::string_view name = {};
     std::optional<ShowMode> shown = {};  // nothing while it is hidden
   };
 
   FormWindow* WindowOf(const Form& form);
   const FormWindow* WindowOf(const Form& form) const;
   void PassMillisecond(Form& form);
+  void Note(std::string_view event, const FormWindow& window);
 
   MemoryNativeWindows& windows_;
   WindowHandle nextHandle_ = 0x10000;

@@ -131,24 +131,26 @@ TEST_F(ConnectClicks, AClickMayEndTheConnectionAndItsCommandGoesOn) {
 TEST_F(ConnectClicks, MsgBoxCreatorShowsTheDesigner) {
   for (const int handler : {9, 50}) {
     ButtonOf(handler).Execute();
-    EXPECT_TRUE(memory.formHost.IsVisible(forms->MessageBoxDesigner()));
-    EXPECT_FALSE(memory.formHost.IsModal(forms->MessageBoxDesigner()));
-    forms->MessageBoxDesigner().Unload();
+    ASSERT_TRUE(IsVisible("frmMsgBox"));
+    EXPECT_FALSE(memory.formHost.IsModal(LoadedForm("frmMsgBox")));
+    LoadedForm("frmMsgBox").Close();
+    EXPECT_FALSE(IsLoaded("frmMsgBox"));
   }
 }
 
 TEST_F(ConnectClicks, ConfigureShowsTheSetupDialog) {
   ButtonOf(62).Execute();
-  EXPECT_TRUE(memory.formHost.IsVisible(forms->SetupDialog()));
-  EXPECT_FALSE(memory.formHost.IsModal(forms->SetupDialog()));
+  ASSERT_TRUE(IsVisible("frmSetup"));
+  EXPECT_FALSE(memory.formHost.IsModal(LoadedForm("frmSetup")));
 }
 
 TEST_F(ConnectClicks, AboutShowsTheSplashFormWithoutItsTimer) {
-  forms->Splash().Unload();
-  forms->notes.clear();
+  memory.formHost.Elapse(1000);
+  ASSERT_FALSE(IsLoaded("frmSplash"));
   ButtonOf(63).Execute();
-  EXPECT_THAT(forms->notes, ElementsAre("load frmSplash", "show frmSplash"));
-  EXPECT_TRUE(memory.formHost.IsVisible(forms->Splash()));
+  EXPECT_TRUE(IsVisible("frmSplash"));
+  memory.formHost.Elapse(5000);
+  EXPECT_TRUE(IsVisible("frmSplash"));
 }
 
 TEST_F(ConnectClicks, ContentsAndIndexOpenTheHelpFileBesideTheAddIn) {
@@ -168,8 +170,8 @@ TEST_F(ConnectClicks, TheWebSiteIsOpenedInTheUsersBrowser) {
 TEST_F(ConnectClicks, TheseCommandsNeedNoCodePane) {
   memory.vbe.SetActivePane(nullptr);
   for (const int handler : {9, 60, 61, 62, 63, 64}) ButtonOf(handler).Execute();
-  EXPECT_TRUE(memory.formHost.IsVisible(forms->MessageBoxDesigner()));
-  EXPECT_TRUE(memory.formHost.IsVisible(forms->SetupDialog()));
+  EXPECT_TRUE(IsVisible("frmMsgBox"));
+  EXPECT_TRUE(IsVisible("frmSetup"));
   EXPECT_THAT(memory.helpViewer.requests, SizeIs(2));
   EXPECT_THAT(memory.shell.requests, SizeIs(1));
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
@@ -185,7 +187,7 @@ TEST_F(ConnectClicks, AFormThatCannotBeShownIsPassedOver) {
   Set("SplashScreen", "False");
   ConnectIt(RaisingAlways({"FormHost.Show", "HelpViewer.HtmlHelp", "Shell.ShellExecute"}));
   for (const int handler : {9, 60, 62, 64}) ButtonOf(handler).Execute();
-  EXPECT_FALSE(memory.formHost.IsVisible(forms->MessageBoxDesigner()));
+  EXPECT_FALSE(IsVisible("frmMsgBox"));
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
 }
 

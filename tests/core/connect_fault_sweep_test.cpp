@@ -1,5 +1,6 @@
 // Connection, start-up, clicks and disconnection over an environment in which one call after the
 // other fails. Whatever fails, nothing is raised, and nothing of the add-in is left behind.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,6 +15,8 @@
 
 namespace brimwork {
 namespace {
+
+using testing::IsSupersetOf;
 
 /// One life of the add-in, from connection to disconnection.
 class Life : public ConnectedAddIn {
@@ -60,11 +63,20 @@ class Life : public ConnectedAddIn {
     try {
       ConnectIt(std::move(fault));
       connect.AddinInstance_OnStartupComplete();
+      OpenForms();
       lastCallConnected_ = static_cast<int>(faulty->Operations().size());
       if (isDisconnecting != nullptr) *isDisconnecting = true;
       Disconnect();
     } catch (const std::exception& error) {
       raised_ = error.what();
+    }
+  }
+
+  /// With the entries of the menu, as far as they have been built.
+  void OpenForms() {
+    for (const auto& control : AllControls(AddInsMenu())) {
+      const std::string caption(control->LastCaption());
+      if (caption == "MsgBox Creator" || caption == "Configure Brimwork") control->Execute();
     }
   }
 
@@ -96,6 +108,8 @@ TEST(ConnectFaultSweep, WithoutFaultsNothingIsToldOrLeft) {
   EXPECT_EQ(life.ComplaintWithBars(), "");
   EXPECT_EQ(life.MessageCount(), 0);
   EXPECT_GT(life.LastCallConnected(), 500);
+  EXPECT_THAT(life.memory.formHost.events,
+              IsSupersetOf({"show frmSplash", "show frmMsgBox", "show frmSetup"}));
 }
 
 TEST(ConnectFaultSweep, OneFailingCallWhileConnectingLeavesNothingBehind) {
@@ -113,7 +127,7 @@ TEST(ConnectFaultSweep, OneFailingCallWhileDisconnectingLeavesNothingBehindEithe
   for (int call = unharmed.LastCallConnected() + 1; call <= calls; ++call) {
     Life life(FailingAt(call, Fault::Kind::kRaises));
     ASSERT_EQ(life.ComplaintWithBars(), "") << CallTitle(unharmed, call);
-    ASSERT_EQ(life.MessageCount(), 0) << CallTitle(unharmed, call);
+    ASSERT_LE(life.MessageCount(), 1) << CallTitle(unharmed, call);
   }
 }
 

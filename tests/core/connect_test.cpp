@@ -32,6 +32,13 @@ struct ConnectTest : testing::Test, ConnectedAddIn {
     return names;
   }
 
+  /// As the user does it.
+  void ShowAllForms() {
+    EntryOf(SubmenuOf(AddInsMenu(), "Brimwork"), "MsgBox Creator").Execute();
+    static_cast<frmMsgBox&>(LoadedForm("frmMsgBox")).cmdCode.Click();
+    EntryOf(SubmenuOf(SubmenuOf(AddInsMenu(), "Brimwork"), "Help"), "Configure Brimwork").Execute();
+  }
+
   bool isDisconnecting = false;
 
   /// The calls of a connection to these operations, in their order.
@@ -50,21 +57,45 @@ struct ConnectTest : testing::Test, ConnectedAddIn {
 
 TEST_F(ConnectTest, ShowsTheSplashFormOnTopOfAllAndStartsItsTimer) {
   ConnectIt();
-  EXPECT_THAT(forms->notes,
-              ElementsAre("load frmSplash", "show frmSplash", "start the splash timer"));
-  const auto& window = memory.nativeWindows.windows.at(forms->Splash().hWnd());
+  EXPECT_THAT(memory.formHost.events,
+              ElementsAre("load frmSplash", "show frmSplash", "load frmInfo"));
+  const auto& window = memory.nativeWindows.windows.at(LoadedForm("frmSplash").hWnd());
   ASSERT_THAT(window.positions, SizeIs(1));
   EXPECT_EQ(window.positions[0].insertAfter, window_order::kTopMost);
+  memory.formHost.Elapse(1000);
+  EXPECT_FALSE(IsLoaded("frmSplash"));
+}
+
+TEST_F(ConnectTest, ShowsTheSetupDialogBehindTheSplashFormOnTheFirstRunOnly) {
+  ConnectIt();
+  memory.formHost.Elapse(1000);
+  ASSERT_TRUE(IsVisible("frmSetup"));
+  EXPECT_FALSE(memory.formHost.IsModal(LoadedForm("frmSetup")));
+  LoadedForm("frmSetup").Close();
+  Disconnect();
+  ConnectIt();
+  memory.formHost.Elapse(1000);
+  EXPECT_FALSE(IsLoaded("frmSplash"));
+  EXPECT_FALSE(IsLoaded("frmSetup"));
+}
+
+TEST_F(ConnectTest, ShowsNoSetupDialogWithoutTheSplashForm) {
+  Set("SplashScreen", "False");
+  ConnectIt();
+  memory.formHost.Elapse(5000);
+  EXPECT_FALSE(IsLoaded("frmSetup"));
+  EXPECT_EQ(Get("FirstRun"), "nothing");
 }
 
 TEST_F(ConnectTest, OnlyLoadsTheSplashFormWhenTheUserDoesNotWantToSeeIt) {
   for (const char* value : {"False", "true", "", "1"}) {
     Set("SplashScreen", value);
     ConnectIt();
-    EXPECT_THAT(forms->notes, ElementsAre("load frmSplash")) << value;
-    EXPECT_FALSE(forms->Splash().Visible());
-    EXPECT_THAT(memory.nativeWindows.windows.at(forms->Splash().hWnd()).positions, IsEmpty());
+    EXPECT_THAT(memory.formHost.events, ElementsAre("load frmSplash", "load frmInfo")) << value;
+    EXPECT_THAT(memory.nativeWindows.windows.at(LoadedForm("frmSplash").hWnd()).positions,
+                IsEmpty());
     Disconnect();
+    memory.formHost.events.clear();
   }
 }
 
@@ -134,49 +165,30 @@ TEST_F(ConnectTest, AFailureOfABuildingIsNoFailureOfTheConnection) {
 
 TEST_F(ConnectTest, AFormThatCannotBePutOnTopIsShownAllTheSame) {
   ConnectIt(RaisingAlways({"NativeWindows.SetWindowPos"}));
-  EXPECT_TRUE(forms->Splash().Visible());
+  EXPECT_TRUE(IsVisible("frmSplash"));
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
-}
-
-TEST_F(ConnectTest, FormsThatCannotBeMadeAreToldAndEndNothingElse) {
-  Connect formless([](const Environment&) -> std::unique_ptr<AddInForms> {
-    throw RunTimeError(error_number::kCannotCreateObject, "no forms");
-  });
-  formless.AddinInstance_OnConnection(memory.Parts());
-  EXPECT_THAT(memory.dialogs.Messages(), ElementsAre(kNotConnected));
-  formless.AddinInstance_OnDisconnection();
-  EXPECT_FALSE(formless.IsConnected());
 }
 
 // Disconnection.
 
 TEST_F(ConnectTest, UnloadsTheFormsInTheirOrder) {
   ConnectIt();
-  std::vector<std::string> unloaded;
-  forms->SetupDialog().Show();
-  forms->CodeViewer().Show();
-  forms->MessageBoxDesigner().Show();
-  forms->notes.clear();
-  std::vector<std::string> seen;
+  ShowAllForms();
   ASSERT_THAT(LoadedForms(),
-              ElementsAre("frmSplash", "frmInfo", "frmSetup", "frmCode", "frmMsgBox"));
-  forms->onUnload = [&] {
-    if (seen.empty()) seen = LoadedForms();
-    unloaded.push_back(forms->notes.back());
-  };
+              ElementsAre("frmSplash", "frmInfo", "frmMsgBox", "frmCode", "frmSetup"));
+  memory.formHost.events.clear();
   Disconnect();
-  EXPECT_THAT(seen, Not(Contains("frmInfo")));
-  EXPECT_THAT(unloaded, ElementsAre("unload frmSetup", "unload frmCode", "unload frmMsgBox",
-                                    "unload frmSplash"));
+  EXPECT_THAT(memory.formHost.events,
+              ElementsAre("unload frmInfo", "unload frmSetup", "unload frmCode", "unload frmMsgBox",
+                          "unload frmSplash"));
   EXPECT_THAT(LoadedForms(), IsEmpty());
 }
 
 TEST_F(ConnectTest, LoadsNoFormJustToUnloadIt) {
   ConnectIt();
-  std::vector<std::string> unloaded;
-  forms->onUnload = [&] { unloaded.push_back(forms->notes.back()); };
+  memory.formHost.events.clear();
   Disconnect();
-  EXPECT_THAT(unloaded, ElementsAre("unload frmSplash"));
+  EXPECT_THAT(memory.formHost.events, ElementsAre("unload frmInfo", "unload frmSplash"));
 }
 
 TEST_F(ConnectTest, ClosesAllHelpAtTheEnd) {
@@ -191,9 +203,10 @@ TEST_F(ConnectTest, RemovesTheToolbarThenTheMenuThenThePopupsThenTheForms) {
   ConnectIt(Fault{});
   std::vector<std::string> order;
   const std::size_t first = faulty->Operations().size();
-  forms->onUnload = [&] {
-    order.push_back(AddInsMenu().All().size() == 2 && !Toolbar() ? "forms behind the entries"
-                                                                 : "forms too early");
+  memory.formHost.onUnload = [&] {
+    const bool isBehind = AddInsMenu().All().size() == 2 && !Toolbar();
+    const char* const seen = isBehind ? "forms behind the entries" : "forms too early";
+    if (order.empty() || order.back() != seen) order.push_back(seen);
   };
   Disconnect();
   for (std::size_t i = first; i < faulty->Operations().size(); ++i) {
@@ -230,10 +243,8 @@ TEST_F(ConnectTest, DisconnectionIgnoresErrorsStepByStep) {
 }
 
 TEST_F(ConnectTest, AFormThatFailsToUnloadDoesNotKeepTheOthers) {
-  ConnectIt();
-  forms->SetupDialog().Show();
-  forms->CodeViewer().Show();
-  forms->onUnload = [] { throw RunTimeError(error_number::kInvalidProcedureCall, "not now"); };
+  ConnectIt(RaisingAlways({"SettingsArea.SaveSetting", "Dialogs.MsgBox"}));
+  ShowAllForms();
   Disconnect();
   EXPECT_THAT(LoadedForms(), IsEmpty());
   EXPECT_THAT(memory.helpViewer.requests, SizeIs(1));
@@ -264,12 +275,10 @@ TEST_F(ConnectTest, ADisconnectionWhileMessagesRunEndsTheConnection) {
 
 TEST_F(ConnectTest, EachConnectionStartsWithFreshForms) {
   ConnectIt();
-  forms->SetupDialog().Show();
+  ShowAllForms();
   Disconnect();
   ConnectIt();
-  EXPECT_FALSE(forms->SetupDialog().IsLoaded());
-  EXPECT_THAT(forms->notes,
-              ElementsAre("load frmSplash", "show frmSplash", "start the splash timer"));
+  EXPECT_THAT(LoadedForms(), ElementsAre("frmSplash", "frmInfo"));
 }
 
 }  // namespace

@@ -175,9 +175,7 @@ TEST_F(MenusTest, TheEnvironmentsOwnCommandsAreFoundOnAnotherBarWhenTheUserHasMo
 
 TEST_F(MenusTest, WhatACrashedConnectionHasLeftIsReplaced) {
   const auto before = AllBars(memory.vbe.commandBars);
-  Connect crashed([](const Environment& environment) {
-    return std::make_unique<PlainForms>(environment.formHost);
-  });
+  Connect crashed;
   crashed.AddinInstance_OnConnection(memory.Parts());
   const auto connected = AllBars(memory.vbe.commandBars);
   ConnectIt();

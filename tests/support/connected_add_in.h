@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,7 +14,6 @@
 #include "memory/usual_command_bars.h"
 #include "settings/settings.h"
 #include "support/faulty_environment.h"
-#include "support/plain_forms.h"
 
 namespace brimwork {
 
@@ -41,6 +41,21 @@ struct ConnectedAddIn {
   std::shared_ptr<MemoryCommandBar> Toolbar() const {
     return memory.vbe.commandBars.OfName("Brimwork");
   }
+  /// A loaded form. Throws std::out_of_range when there is none of that name.
+  Form& LoadedForm(std::string_view name) const {
+    for (Form* form : memory.formHost.LoadedForms()) {
+      if (form->Layout().name == name) return *form;
+    }
+    throw std::out_of_range(std::string(name) + " is not loaded");
+  }
+  bool IsLoaded(std::string_view name) const {
+    return std::ranges::any_of(memory.formHost.LoadedForms(),
+                               [&](const Form* form) { return form->Layout().name == name; });
+  }
+  bool IsVisible(std::string_view name) const {
+    return IsLoaded(name) && memory.formHost.IsVisible(LoadedForm(name));
+  }
+
   const MemoryCommandBarControls& AddInsMenu() const { return *bars.addIns->Entries(); }
   const MemoryCommandBarControls& CodeWindow() const { return *bars.codeWindow->Entries(); }
   const MemoryCommandBarControls& ImmediateWindow() const {
@@ -50,12 +65,7 @@ struct ConnectedAddIn {
   MemoryEnvironment memory;
   UsualCommandBars bars = AddUsualCommandBars(memory.vbe);
   std::unique_ptr<FaultyEnvironment> faulty;
-  PlainForms* forms = nullptr;  // of the latest connection
-  Connect connect{[this](const Environment& environment) {
-    auto made = std::make_unique<PlainForms>(environment.formHost);
-    forms = made.get();
-    return made;
-  }};
+  Connect connect;
 };
 
 /// A fault that lets the n-th call to an operation raise an error.
