@@ -17,7 +17,7 @@
 #include "environment/text.h"
 
 namespace brimwork {
-namespace {
+namespace layering_test {
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
@@ -256,5 +256,5 @@ TEST(LayeringRules, TakeAFileIncludedTwiceForNoCircle) {
               IsEmpty());
 }
 
-}  // namespace
+}  // namespace layering_test
 }  // namespace brimwork

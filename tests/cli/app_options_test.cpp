@@ -11,7 +11,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace app_options_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -143,5 +143,5 @@ TEST_F(AppOptionsTest, RefuseAnUnknownEncodingBeforeAnyFileIsRead) {
   EXPECT_THAT(ErrorOf(Parse({"--encoding", "cp99999", "a.bas"})), HasSubstr("\"cp99999\""));
 }
 
-}  // namespace
+}  // namespace app_options_test
 }  // namespace brimwork

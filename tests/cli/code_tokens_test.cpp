@@ -7,7 +7,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace code_tokens_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -150,5 +150,5 @@ TEST(CodeTokens, EveryCharacterIsInSomeToken) {
   EXPECT_EQ(joined, expected);
 }
 
-}  // namespace
+}  // namespace code_tokens_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace command_request_test {
 
 using testing::HasSubstr;
 
@@ -115,5 +115,5 @@ TEST(FriendlyNames, StandForCaptionsAndBack) {
   EXPECT_EQ(CommandNameOf("Full Screen"), "");
 }
 
-}  // namespace
+}  // namespace command_request_test
 }  // namespace brimwork

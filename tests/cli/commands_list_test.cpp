@@ -11,7 +11,7 @@
 #include "core/catalogue.h"
 
 namespace brimwork {
-namespace {
+namespace commands_list_test {
 
 std::vector<std::string> TableLines() {
   std::vector<std::string> lines;
@@ -69,5 +69,5 @@ TEST(CommandsTable, EndsNoLineInBlanksAndFitsInto80Columns) {
   }
 }
 
-}  // namespace
+}  // namespace commands_list_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace export_keywords_test {
 
 using testing::HasSubstr;
 using testing::ThrowsMessage;
@@ -70,5 +70,5 @@ TEST_F(Keywords, OfAFileThatCannotBeReadAreAnError) {
               ThrowsMessage<UsageError>(HasSubstr("needs the name of a file")));
 }
 
-}  // namespace
+}  // namespace export_keywords_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace export_names_test {
 
 using testing::ElementsAre;
 
@@ -51,5 +51,5 @@ TEST(ExportNames, OfStandardInputAreThoseOfTheFileItStandsFor) {
   EXPECT_EQ(SourceName("src/a.bas", options), "a.bas");
 }
 
-}  // namespace
+}  // namespace export_names_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace export_options_test {
 
 class OptionsOfAnExport : public testing::Test {
  protected:
@@ -124,5 +124,5 @@ TEST(LineRanges, AreNothingElse) {
   }
 }
 
-}  // namespace
+}  // namespace export_options_test
 }  // namespace brimwork

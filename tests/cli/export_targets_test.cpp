@@ -9,7 +9,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace export_targets_test {
 
 namespace fs = std::filesystem;
 using testing::StartsWith;
@@ -100,5 +100,5 @@ TEST_F(ExportTargets, NeedTheirFolder) {
   EXPECT_THROW(MakeFolder(In("file/deep")), SourceError);
 }
 
-}  // namespace
+}  // namespace export_targets_test
 }  // namespace brimwork

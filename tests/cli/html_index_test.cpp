@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace html_index_test {
 
 using testing::AllOf;
 using testing::EndsWith;
@@ -59,5 +59,5 @@ TEST(KindOfModule, GoesByTheExtension) {
   EXPECT_EQ(KindOfModule("stdin"), "Source file");
 }
 
-}  // namespace
+}  // namespace html_index_test
 }  // namespace brimwork

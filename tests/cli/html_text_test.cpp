@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace html_text_test {
 
 TEST(HtmlText, EscapesWhatMeansSomethingInAPage) {
   EXPECT_EQ(HtmlText("a<b> & \"c\" 'd'"), "a&lt;b&gt; &amp; &quot;c&quot; 'd'");
@@ -34,5 +34,5 @@ TEST(PercentEncoding, LeavesUnreservedCharactersOnly) {
   EXPECT_EQ(PercentEncoded("\xC3\xBC\xFF\\"), "%C3%BC%FF%5C");
 }
 
-}  // namespace
+}  // namespace html_text_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace inputs_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -135,5 +135,5 @@ TEST_F(CollectInputsTest, CallsAProjectThatNobodyNamedAsTheEditorDoes) {
   EXPECT_EQ(CollectInputs({"-"}, "").files.at(0).projectName(), "Project1");
 }
 
-}  // namespace
+}  // namespace inputs_test
 }  // namespace brimwork

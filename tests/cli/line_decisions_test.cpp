@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace line_decisions_test {
 
 constexpr std::string_view kLine = "a teh b wrod c";
 
@@ -56,5 +56,5 @@ TEST(LineDecisions, MoveWithALineThatBecameShorter) {
   EXPECT_EQ(decisions.Corrected(kWritten, 0, kWritten.size()), "a x b word c");
 }
 
-}  // namespace
+}  // namespace line_decisions_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "support/typed_answers.h"
 
 namespace brimwork {
-namespace {
+namespace module_spelling_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -229,5 +229,5 @@ TEST(ModuleSpelling, ListsNothingForAModuleWithoutText) {
   EXPECT_EQ(module.List(), "");
 }
 
-}  // namespace
+}  // namespace module_spelling_test
 }  // namespace brimwork

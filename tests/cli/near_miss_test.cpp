@@ -5,7 +5,7 @@
 #include <array>
 
 namespace brimwork {
-namespace {
+namespace near_miss_test {
 
 constexpr std::array<std::string_view, 4> kKnown{"Header", "Separator", "ErrorHandling", "Indent"};
 
@@ -47,5 +47,5 @@ TEST(NearMissHint, SaysNothingOfWordsThatShareNoMoreThanTheirShortness) {
   EXPECT_EQ(NearMissHint("xyz", kKnown), "");
 }
 
-}  // namespace
+}  // namespace near_miss_test
 }  // namespace brimwork

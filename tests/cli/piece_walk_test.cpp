@@ -7,7 +7,7 @@
 #include "support/spelling_corrector.h"
 
 namespace brimwork {
-namespace {
+namespace piece_walk_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -82,5 +82,5 @@ TEST(PieceWalk, KnowsWhatAnEarlierPieceOfTheLineHolds) {
   EXPECT_FALSE(walk.IsInEarlierPiece(6));
 }
 
-}  // namespace
+}  // namespace piece_walk_test
 }  // namespace brimwork

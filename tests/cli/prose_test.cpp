@@ -6,7 +6,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace prose_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -40,5 +40,5 @@ TEST(Prose, TellsWhichPlacesItHolds) {
   EXPECT_FALSE(prose.Holds(8));
 }
 
-}  // namespace
+}  // namespace prose_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace spell_answers_test {
 
 using testing::HasSubstr;
 using testing::Optional;
@@ -81,5 +81,5 @@ TEST(Replacement, ExistsInTheEncodingOfTheFile) {
   EXPECT_NE(ProblemOfReplacement("\xFF", "UTF-8"), std::nullopt);
 }
 
-}  // namespace
+}  // namespace spell_answers_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "environment/text.h"
 
 namespace brimwork {
-namespace {
+namespace spell_display_test {
 
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -111,5 +111,5 @@ TEST(SpellListLine, IsThePlaceTheWordAndItsSuggestions) {
   EXPECT_EQ(ListLine(Word("' ", "xyzzy", ""), {}), "a.bas:3:9: \"xyzzy\": no suggestions\n");
 }
 
-}  // namespace
+}  // namespace spell_display_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "support/typed_answers.h"
 
 namespace brimwork {
-namespace {
+namespace spell_questions_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -122,5 +122,5 @@ TEST_F(SpellQuestionsTest, OfferNoNumberWithoutSuggestions) {
   EXPECT_THAT(user.shown, HasSubstr("no suggestions\nr TEXT"));
 }
 
-}  // namespace
+}  // namespace spell_questions_test
 }  // namespace brimwork

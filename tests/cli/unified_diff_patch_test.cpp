@@ -10,7 +10,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace unified_diff_patch_test {
 
 struct RandomFile {
   std::vector<std::string> lines;  // with their CR
@@ -119,5 +119,5 @@ TEST(UnifiedDiffApplied, ByPatchGivesTheNewFile) {
 
 TEST(UnifiedDiffApplied, ByGitGivesTheNewFile) { ApplyRandomDiffs("git", "apply -p0 diff"); }
 
-}  // namespace
+}  // namespace unified_diff_patch_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace unified_diff_test {
 
 using Lines = std::vector<std::string>;
 
@@ -189,5 +189,5 @@ TEST(UnifiedDiff, GivesALongDiffInBlocks) {
   EXPECT_LT(largest, 100000u);
 }
 
-}  // namespace
+}  // namespace unified_diff_test
 }  // namespace brimwork

@@ -18,7 +18,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace vouch_commands_test {
 
 struct VouchedCommand {
   std::string_view caption;
@@ -219,5 +219,5 @@ std::string CommandName(const ::testing::TestParamInfo<std::size_t>& info) {
 INSTANTIATE_TEST_SUITE_P(AllCommands, VouchForCommands, ::testing::Range<std::size_t>(0, 7),
                          CommandName);
 
-}  // namespace
+}  // namespace vouch_commands_test
 }  // namespace brimwork

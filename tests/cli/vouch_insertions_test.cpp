@@ -7,7 +7,7 @@
 #include "support/vouched_texts.h"
 
 namespace brimwork {
-namespace {
+namespace vouch_insertions_test {
 
 Lines Without(Lines lines, int line) {
   lines.erase(lines.begin() + line - 1);
@@ -169,5 +169,5 @@ TEST(VouchStamps, AStampBehindAContinuationIsFound) {
   EXPECT_EQ(Where({"x = _", "1"}, {"x = _ ' 11/21/2026 ", "1"}, allowance), "1/1");
 }
 
-}  // namespace
+}  // namespace vouch_insertions_test
 }  // namespace brimwork

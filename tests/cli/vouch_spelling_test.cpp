@@ -7,7 +7,7 @@
 #include "support/vouched_texts.h"
 
 namespace brimwork {
-namespace {
+namespace vouch_spelling_test {
 
 Allowance Spelling() {
   Allowance allowance;
@@ -136,5 +136,5 @@ TEST(VouchSpelling, HoldsForACleanUpWithEveryStep) {
   EXPECT_EQ(Where(before, after, AllowanceFor("Code Clean Up", opened.addIn.environment)), "");
 }
 
-}  // namespace
+}  // namespace vouch_spelling_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/vouched_texts.h"
 
 namespace brimwork {
-namespace {
+namespace vouch_test {
 
 TEST(Vouch, EqualTextsAreVouchedFor) {
   EXPECT_EQ(Where({}, {}), "");
@@ -166,5 +166,5 @@ TEST(VouchAlignment, RemovedLinesStandForNone) {
   EXPECT_EQ(alignment.AfterLine(3), 3);
 }
 
-}  // namespace
+}  // namespace vouch_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "cli/vouch.h"
 
 namespace brimwork {
-namespace {
+namespace warnings_test {
 
 using ::testing::AllOf;
 using ::testing::ElementsAre;
@@ -234,5 +234,5 @@ TEST(HandlerWarnings, StandAtTheLineThatTheDeclarationHadBefore) {
       ElementsAre(WarningAt(1, "SubA"), WarningAt(3, "SubB")));
 }
 
-}  // namespace
+}  // namespace warnings_test
 }  // namespace brimwork

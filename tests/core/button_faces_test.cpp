@@ -6,7 +6,7 @@
 #include "memory/memory_environment.h"
 
 namespace brimwork {
-namespace {
+namespace button_faces_test {
 
 struct ButtonFaces : testing::Test {
   MemoryEnvironment memory;
@@ -43,5 +43,5 @@ TEST_F(ButtonFaces, AKeyWithoutAPictureRaisesAnErrorAndLeavesTheClipboard) {
   EXPECT_EQ(memory.clipboard.GetText(), "copied");
 }
 
-}  // namespace
+}  // namespace button_faces_test
 }  // namespace brimwork

@@ -3,7 +3,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace caret_on_empty_line_test {
 
 TEST(CaretOnAnEmptyLine, StaysOnThatLineWhenLinesAreAddedAboveIt) {
   OpenedModule opened({"Sub A()", "x = 1", "", "y = 1", "End Sub"});
@@ -12,5 +12,5 @@ TEST(CaretOnAnEmptyLine, StaysOnThatLineWhenLinesAreAddedAboveIt) {
   EXPECT_EQ(opened.CaretLine(), 4);
 }
 
-}  // namespace
+}  // namespace caret_on_empty_line_test
 }  // namespace brimwork

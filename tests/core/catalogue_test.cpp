@@ -9,7 +9,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace catalogue_test {
 
 using testing::ElementsAre;
 
@@ -194,5 +194,5 @@ TEST(Catalogue, EntriesOfOneCaptionBearOneFace) {
   }
 }
 
-}  // namespace
+}  // namespace catalogue_test
 }  // namespace brimwork

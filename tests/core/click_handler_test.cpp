@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace click_handler_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -141,5 +141,5 @@ TEST_F(ClickHandler, WithoutACodeSourceEveryCodeCommandTellsTheUserExactlyOnce) 
   EXPECT_THAT(LinesOf(*pane->Module()), ElementsAreArray(before));
 }
 
-}  // namespace
+}  // namespace click_handler_test
 }  // namespace brimwork

@@ -13,7 +13,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace connect_clicks_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -191,5 +191,5 @@ TEST_F(ConnectClicks, AFormThatCannotBeShownIsPassedOver) {
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
 }
 
-}  // namespace
+}  // namespace connect_clicks_test
 }  // namespace brimwork

@@ -14,7 +14,7 @@
 #include "support/entry_tree.h"
 
 namespace brimwork {
-namespace {
+namespace connect_fault_sweep_test {
 
 using testing::IsSupersetOf;
 
@@ -190,5 +190,5 @@ TEST(ConnectFaultSweep, AnOperationThatNeverWorksEndsTheAddInWithoutAnError) {
   }
 }
 
-}  // namespace
+}  // namespace connect_fault_sweep_test
 }  // namespace brimwork

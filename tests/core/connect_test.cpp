@@ -11,7 +11,7 @@
 #include "support/entry_tree.h"
 
 namespace brimwork {
-namespace {
+namespace connect_test {
 
 using testing::AllOf;
 using testing::Contains;
@@ -281,5 +281,5 @@ TEST_F(ConnectTest, EachConnectionStartsWithFreshForms) {
   EXPECT_THAT(LoadedForms(), ElementsAre("frmSplash", "frmInfo"));
 }
 
-}  // namespace
+}  // namespace connect_test
 }  // namespace brimwork

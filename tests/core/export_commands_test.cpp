@@ -13,7 +13,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace export_commands_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -229,5 +229,5 @@ TEST_F(ExportCommands, OfAnotherSpellingDoNothing) {
   }
 }
 
-}  // namespace
+}  // namespace export_commands_test
 }  // namespace brimwork

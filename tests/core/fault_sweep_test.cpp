@@ -18,7 +18,7 @@
 #include "support/module_generator.h"
 
 namespace brimwork {
-namespace {
+namespace fault_sweep_test {
 
 constexpr const char* kUsersClipboard = "what the user copied";
 constexpr const char* kExported = "C:\\Exported";
@@ -310,5 +310,5 @@ TEST(FaultSweep, AnObjectThatIsNotThereLeavesTheDesktopAsItWasAndLosesNoLine) {
   });
 }
 
-}  // namespace
+}  // namespace fault_sweep_test
 }  // namespace brimwork

@@ -17,7 +17,7 @@
 #include "support/form_checks.h"
 
 namespace brimwork {
-namespace {
+namespace frmInfo_form_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -210,5 +210,5 @@ TEST_F(ProgressForms, HaveRoomForTheirControlsAndTheLongestMessage) {
   EXPECT_THAT(LayoutFaults(*window), IsEmpty());
 }
 
-}  // namespace
+}  // namespace frmInfo_form_test
 }  // namespace brimwork

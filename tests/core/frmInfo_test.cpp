@@ -8,7 +8,7 @@
 #include "memory/memory_environment.h"
 
 namespace brimwork {
-namespace {
+namespace frmInfo_test {
 
 /// The progress window in an environment of its own.
 struct Progress {
@@ -132,5 +132,5 @@ TEST(ProgressWindow, ShowsTheSameWhetherEachStepOrOnlyOneIsDrawn) {
   }
 }
 
-}  // namespace
+}  // namespace frmInfo_test
 }  // namespace brimwork

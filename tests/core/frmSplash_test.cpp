@@ -13,7 +13,7 @@
 #include "support/form_checks.h"
 
 namespace brimwork {
-namespace {
+namespace frmSplash_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -126,5 +126,5 @@ TEST_F(Splash, TellsTheVersion) {
 
 TEST_F(Splash, HasRoomForItsTexts) { EXPECT_THAT(LayoutFaults(form), IsEmpty()); }
 
-}  // namespace
+}  // namespace frmSplash_test
 }  // namespace brimwork

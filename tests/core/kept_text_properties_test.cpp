@@ -16,7 +16,7 @@
 #include "transform/procedure_walk.h"
 
 namespace brimwork {
-namespace {
+namespace kept_text_properties_test {
 
 constexpr unsigned kSeeds = 300;
 
@@ -161,5 +161,5 @@ TEST(KeptTextProperties, HiddenLinesStayBehindTheirLines) {
   }
 }
 
-}  // namespace
+}  // namespace kept_text_properties_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "support/entry_tree.h"
 
 namespace brimwork {
-namespace {
+namespace menus_failures_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -138,5 +138,5 @@ TEST_F(MenuFailures, AFailingDeleteIsTriedAgain) {
   }
 }
 
-}  // namespace
+}  // namespace menus_failures_test
 }  // namespace brimwork

@@ -11,7 +11,7 @@
 #include "support/entry_tree.h"
 
 namespace brimwork {
-namespace {
+namespace menus_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -233,5 +233,5 @@ TEST_F(MenusTest, EntriesOfOtherAddInsStay) {
   EXPECT_EQ(foreign->Caption(), "Another");
 }
 
-}  // namespace
+}  // namespace menus_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace modButtonClicked_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -199,5 +199,5 @@ TEST(ButtonClicked, TheMainWindowIsFrozenWhileOneProcedureIsCommentedOrNumbered)
   }
 }
 
-}  // namespace
+}  // namespace modButtonClicked_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "memory/memory_shell.h"
 
 namespace brimwork {
-namespace {
+namespace modHTMLHelp_test {
 
 using testing::ElementsAre;
 
@@ -57,5 +57,5 @@ TEST(Help, EachOperationIgnoresItsErrors) {
   EXPECT_EQ(viewer.calls, 4);
 }
 
-}  // namespace
+}  // namespace modHTMLHelp_test
 }  // namespace brimwork

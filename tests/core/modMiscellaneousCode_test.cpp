@@ -7,7 +7,7 @@
 #include "memory/memory_shell.h"
 
 namespace brimwork {
-namespace {
+namespace modMiscellaneousCode_test {
 
 using testing::ElementsAre;
 
@@ -32,5 +32,5 @@ TEST(WebAddress, AFailureIsIgnored) {
   EXPECT_EQ(shell.calls, 1);
 }
 
-}  // namespace
+}  // namespace modMiscellaneousCode_test
 }  // namespace brimwork

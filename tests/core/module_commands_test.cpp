@@ -9,7 +9,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace module_commands_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -172,5 +172,5 @@ TEST(ModuleCommands, ACleanUpRunsOnceHoweverManyProceduresThereAre) {
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "ErrorTrap:"), 2);
 }
 
-}  // namespace
+}  // namespace module_commands_test
 }  // namespace brimwork

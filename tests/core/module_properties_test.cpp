@@ -13,7 +13,7 @@
 #include "support/module_generator.h"
 
 namespace brimwork {
-namespace {
+namespace module_properties_test {
 
 constexpr unsigned kSeeds = 300;
 
@@ -160,5 +160,5 @@ TEST(ModuleProperties, AModuleWithoutProceduresStaysAsItIs) {
   }
 }
 
-}  // namespace
+}  // namespace module_properties_test
 }  // namespace brimwork

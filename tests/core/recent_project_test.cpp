@@ -9,7 +9,7 @@
 #include "support/entry_tree.h"
 
 namespace brimwork {
-namespace {
+namespace recent_project_test {
 
 constexpr const char* kOptions = "Software\\Microsoft\\Visual Basic\\6.0";
 constexpr const char* kOwnTemplates = "C:\\Program Files\\Microsoft Visual Studio\\VB98\\Template";
@@ -153,5 +153,5 @@ TEST_F(RecentProject, StartUpWithoutAConnectionIsHarmless) {
   EXPECT_EQ(reopened, 0);
 }
 
-}  // namespace
+}  // namespace recent_project_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace saved_selection_test {
 
 /// The caret's line after it was put back into a module of these lines.
 int LineAfterPuttingBack(int oldLine, std::string_view text, const TextLines& lines) {
@@ -62,5 +62,5 @@ TEST(SavedSelection, TheCaretKeepsItsColumn) {
   EXPECT_EQ(opened.Pane().GetSelection(), (Selection{2, 6, 2, 6}));
 }
 
-}  // namespace
+}  // namespace saved_selection_test
 }  // namespace brimwork

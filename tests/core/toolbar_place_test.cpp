@@ -6,7 +6,7 @@
 #include "support/connected_add_in.h"
 
 namespace brimwork {
-namespace {
+namespace toolbar_place_test {
 
 using testing::IsEmpty;
 
@@ -180,5 +180,5 @@ TEST_F(ToolbarPlace, SettingsThatCannotBeReadGiveTheUsualPlace) {
   EXPECT_TRUE(bar->Visible());
 }
 
-}  // namespace
+}  // namespace toolbar_place_test
 }  // namespace brimwork

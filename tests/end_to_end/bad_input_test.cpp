@@ -12,7 +12,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace bad_input_test {
 
 namespace fs = std::filesystem;
 using testing::AllOf;
@@ -194,5 +194,5 @@ TEST_F(FullDisk, UnderStandardOutputIsAnError) {
   }
 }
 
-}  // namespace
+}  // namespace bad_input_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace case_files_test {
 
 namespace fs = std::filesystem;
 
@@ -137,5 +137,5 @@ std::string NameOf(const testing::TestParamInfo<fs::path>& info) {
 
 INSTANTIATE_TEST_SUITE_P(All, CaseFiles, testing::ValuesIn(FindCases()), NameOf);
 
-}  // namespace
+}  // namespace case_files_test
 }  // namespace brimwork

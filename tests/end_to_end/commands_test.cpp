@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace commands_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -115,5 +115,5 @@ TEST_F(Commands, AreListedWithWhatTheyWorkOnAndTheirFriendlyNames) {
   EXPECT_THAT(result.out, testing::ContainsRegex("Full Screen +in the editor only\n"));
 }
 
-}  // namespace
+}  // namespace commands_test
 }  // namespace brimwork

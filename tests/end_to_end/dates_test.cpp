@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace dates_test {
 
 using testing::HasSubstr;
 
@@ -93,5 +93,5 @@ TEST_F(Dates, AreTheSameInEveryFileOfARun) {
   }
 }
 
-}  // namespace
+}  // namespace dates_test
 }  // namespace brimwork

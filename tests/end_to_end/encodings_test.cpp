@@ -6,7 +6,7 @@
 #include "support/program.h"
 
 namespace brimwork {
-namespace {
+namespace encodings_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -119,5 +119,5 @@ TEST_F(Encodings, ADiffOnATerminalIsReadable) {
   EXPECT_THAT(RunProgram(call).terminal, HasSubstr("+    s = \"\xC3\xBC\"\r\n"));
 }
 
-}  // namespace
+}  // namespace encodings_test
 }  // namespace brimwork

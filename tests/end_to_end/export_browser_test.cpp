@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_browser_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -149,5 +149,5 @@ TEST_F(ExportInABrowser, HasAnIndexPageWhoseLinksLead) {
   EXPECT_EQ(report["link colour"], "rgb(0, 0, 128)");
 }
 
-}  // namespace
+}  // namespace export_browser_test
 }  // namespace brimwork

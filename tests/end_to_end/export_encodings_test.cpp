@@ -5,7 +5,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_encodings_test {
 
 std::string Utf16(std::string_view ascii) {
   std::string bytes;
@@ -72,5 +72,5 @@ TEST_F(ExportEncodings, OfLinesIsThatOfTheFile) {
             "s = \"\xC4\xE0\"");
 }
 
-}  // namespace
+}  // namespace export_encodings_test
 }  // namespace brimwork

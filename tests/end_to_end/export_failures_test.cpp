@@ -11,7 +11,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_failures_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -137,5 +137,5 @@ TEST(ExportThatIsBrokenOff, LeavesEveryFileWholeAndNothingElse) {
   if (!wasUnderWay) GTEST_SKIP() << "no run was broken off between its first and its last file";
 }
 
-}  // namespace
+}  // namespace export_failures_test
 }  // namespace brimwork

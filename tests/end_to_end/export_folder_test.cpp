@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_folder_test {
 
 namespace fs = std::filesystem;
 using testing::AllOf;
@@ -281,5 +281,5 @@ TEST_F(IndexPageOfAnExport, IsInUtf8WhateverTheSourcesAre) {
                           HasSubstr("<a href=\"%D0%9F%FF.htm\">\xD0\x9F\xEF\xBF\xBD</a>")));
 }
 
-}  // namespace
+}  // namespace export_folder_test
 }  // namespace brimwork

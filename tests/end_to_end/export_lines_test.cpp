@@ -5,7 +5,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_lines_test {
 
 using testing::HasSubstr;
 
@@ -107,5 +107,5 @@ TEST_F(ExportedLines, AreOfOneFile) {
             "brimwork: --lines are lines of one file: name one file\n");
 }
 
-}  // namespace
+}  // namespace export_lines_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_quick_test {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -118,5 +118,5 @@ TEST_F(QuickExport, RefusesOptionsThatDoNotGoWithIt) {
   EXPECT_EQ(ErrorOf({"."}), oneFile);
 }
 
-}  // namespace
+}  // namespace export_quick_test
 }  // namespace brimwork

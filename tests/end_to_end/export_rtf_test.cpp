@@ -5,7 +5,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_rtf_test {
 
 using testing::AllOf;
 using testing::EndsWith;
@@ -118,5 +118,5 @@ TEST_F(ExportedRichText, OfAnEmptyModuleIsAnEmptyDocument) {
   EXPECT_THAT(Exported("", {"--keywords", "If"}), StartsWith("{\\rtf1"));
 }
 
-}  // namespace
+}  // namespace export_rtf_test
 }  // namespace brimwork

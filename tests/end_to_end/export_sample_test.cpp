@@ -8,7 +8,7 @@
 #include "environment/text.h"
 
 namespace brimwork {
-namespace {
+namespace export_sample_test {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -112,5 +112,5 @@ TEST_F(ExportedSample, AsRichTextIsADocumentForEachModule) {
   }
 }
 
-}  // namespace
+}  // namespace export_sample_test
 }  // namespace brimwork

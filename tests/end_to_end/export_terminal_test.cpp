@@ -6,7 +6,7 @@
 #include "support/program.h"
 
 namespace brimwork {
-namespace {
+namespace export_terminal_test {
 
 /// What the terminal gets of an export whose input comes so late that the run is a long one.
 std::string ShownOnSlowInput(const std::string& options) {
@@ -44,5 +44,5 @@ TEST(ExportAtATerminal, ShowsNoProgressWithQuiet) {
   EXPECT_EQ(ShownOnSlowInput("-q --format html -"), "");
 }
 
-}  // namespace
+}  // namespace export_terminal_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace export_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -249,5 +249,5 @@ TEST_F(ExportOverAFile, ReplacesNothingThatIsNoFile) {
               HasSubstr("/dev/null: this is no regular file"));
 }
 
-}  // namespace
+}  // namespace export_test
 }  // namespace brimwork

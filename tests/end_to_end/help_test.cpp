@@ -8,7 +8,7 @@
 #include "end_to_end/spelling_workplace.h"
 
 namespace brimwork {
-namespace {
+namespace help_test {
 
 using testing::HasSubstr;
 
@@ -136,5 +136,5 @@ TEST(CommandLine, AMistakeIsOneLineAndExitCode2) {
   }
 }
 
-}  // namespace
+}  // namespace help_test
 }  // namespace brimwork

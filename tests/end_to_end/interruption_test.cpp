@@ -10,7 +10,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace interruption_test {
 
 constexpr int kFiles = 120;
 constexpr int kRepeats = 40;
@@ -74,5 +74,5 @@ TEST(Interruption, EndsTheProgramWithItsSignal) {
   writer.Wait();
 }
 
-}  // namespace
+}  // namespace interruption_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace many_files_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -132,5 +132,5 @@ TEST_F(WhatIsTold, OfWarningsLeavesTheExitCodeAlone) {
   EXPECT_EQ(place.Run({"unnumber", "--write", "c.bas"}).exitCode, 0);
 }
 
-}  // namespace
+}  // namespace many_files_test
 }  // namespace brimwork

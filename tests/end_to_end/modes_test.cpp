@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace modes_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -184,5 +184,5 @@ TEST(StandardInput, CanBeChecked) {
   EXPECT_EQ(result.out, "M.bas\n");
 }
 
-}  // namespace
+}  // namespace modes_test
 }  // namespace brimwork

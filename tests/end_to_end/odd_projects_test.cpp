@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace odd_projects_test {
 
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -50,5 +50,5 @@ TEST(OddProjects, AProjectIsReadWithTheEncodingOfTheRun) {
   EXPECT_THAT(place.Run(words).out, HasSubstr("+'\xC4\xE0.\xC4\xE0.A\n"));
 }
 
-}  // namespace
+}  // namespace odd_projects_test
 }  // namespace brimwork

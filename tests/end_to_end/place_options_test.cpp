@@ -5,7 +5,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace place_options_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -157,5 +157,5 @@ TEST_F(PlaceOptions, ATimeStampNeedsALine) {
   EXPECT_EQ(place.Run({"timestamp", "--procedure", "Age", "f.frm"}).exitCode, 2);
 }
 
-}  // namespace
+}  // namespace place_options_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace projects_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -128,5 +128,5 @@ TEST_F(Projects, ThatAreMissingAreAnError) {
   EXPECT_THAT(result.error, testing::StartsWith("brimwork: p.vbp: "));
 }
 
-}  // namespace
+}  // namespace projects_test
 }  // namespace brimwork

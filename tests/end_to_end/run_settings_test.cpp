@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace run_settings_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -119,5 +119,5 @@ TEST_F(RunSettings, ATabWidthOutOfRangeIsAnError) {
   }
 }
 
-}  // namespace
+}  // namespace run_settings_test
 }  // namespace brimwork

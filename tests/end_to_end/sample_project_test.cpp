@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace sample_project_test {
 
 namespace fs = std::filesystem;
 
@@ -118,5 +118,5 @@ TEST_F(SampleProject, IsOnlyLookedAtByADiff) {
   EXPECT_EQ(ContentOf(Samples()), before);
 }
 
-}  // namespace
+}  // namespace sample_project_test
 }  // namespace brimwork

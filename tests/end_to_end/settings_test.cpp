@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace end_to_end_settings_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -147,5 +147,5 @@ TEST_F(DamagedSettings, DoNotKeepThePathFromBeingTold) {
   EXPECT_EQ(place.Run({"settings", "path"}).exitCode, 0);
 }
 
-}  // namespace
+}  // namespace end_to_end_settings_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "end_to_end/spelling_workplace.h"
 
 namespace brimwork {
-namespace {
+namespace spell_list_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -228,5 +228,5 @@ TEST_F(SpellWithoutAUser, ACleanUpTakesWordsOnlyForTheStep) {
   EXPECT_THAT(result.error, HasSubstr("SpellCheck"));
 }
 
-}  // namespace
+}  // namespace spell_list_test
 }  // namespace brimwork

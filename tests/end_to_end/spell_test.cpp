@@ -6,7 +6,7 @@
 #include "environment/text.h"
 
 namespace brimwork {
-namespace {
+namespace spell_test {
 
 using testing::AllOf;
 using testing::EndsWith;
@@ -179,5 +179,5 @@ TEST_F(Spell, KeepsEveryByteAroundTheWords) {
   EXPECT_EQ(place.Read("m.bas"), "' \xE4 the\r\n\n\t\r\n' word");
 }
 
-}  // namespace
+}  // namespace spell_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace standard_streams_test {
 
 using testing::HasSubstr;
 
@@ -61,5 +61,5 @@ TEST_F(ClosedStreams, AClosedStandardInputIsAnErrorOfTheDashAlone) {
   EXPECT_EQ(place.Read("m0.bas"), kIndented);
 }
 
-}  // namespace
+}  // namespace standard_streams_test
 }  // namespace brimwork

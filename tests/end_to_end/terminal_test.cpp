@@ -7,7 +7,7 @@
 #include "support/program.h"
 
 namespace brimwork {
-namespace {
+namespace terminal_test {
 
 using testing::HasSubstr;
 using testing::Not;
@@ -105,5 +105,5 @@ TEST_F(Terminal, IsNeededForProgress) {
   EXPECT_EQ(result.error, "");
 }
 
-}  // namespace
+}  // namespace terminal_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/program.h"
 
 namespace brimwork {
-namespace {
+namespace unknown_procedure_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -38,5 +38,5 @@ TEST(ShortRunOnATerminal, WritesNothingAtAll) {
   EXPECT_EQ(RunProgram(call).terminal, "");
 }
 
-}  // namespace
+}  // namespace unknown_procedure_test
 }  // namespace brimwork

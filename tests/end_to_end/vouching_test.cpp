@@ -6,7 +6,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace vouching_test {
 
 using testing::AllOf;
 using testing::ElementsAre;
@@ -134,5 +134,5 @@ TEST_F(Warnings, OfACleanUpAreThoseOfItsSteps) {
               testing::UnorderedElementsAre(HasSubstr("Exit Sub"), HasSubstr("GoTo at line 2")));
 }
 
-}  // namespace
+}  // namespace vouching_test
 }  // namespace brimwork

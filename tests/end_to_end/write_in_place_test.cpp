@@ -10,7 +10,7 @@
 #include "end_to_end/workplace.h"
 
 namespace brimwork {
-namespace {
+namespace write_in_place_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -119,5 +119,5 @@ TEST_F(WriteInPlace, PrintsAReadOnlyFile) {
   EXPECT_EQ(place.Run({"indent", "a.bas"}).out, kIndented);
 }
 
-}  // namespace
+}  // namespace write_in_place_test
 }  // namespace brimwork

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace basic_lines_test {
 
 constexpr auto kNothing = Continues::kNothing;
 constexpr auto kStatement = Continues::kStatement;
@@ -166,5 +166,5 @@ TEST(ContinuedBelow, IsACommentBehindARemBehindANumericLabel) {
   EXPECT_EQ(ContinuedBelow("10 Rem goes on _", Continues::kNothing), Continues::kComment);
 }
 
-}  // namespace
+}  // namespace basic_lines_test
 }  // namespace brimwork

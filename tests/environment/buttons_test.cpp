@@ -6,7 +6,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace buttons_test {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -101,5 +101,5 @@ TEST(ControlArray, GoesThroughItsElements) {
   EXPECT_EQ(sample.form.optColor.Count(), 2);
 }
 
-}  // namespace
+}  // namespace buttons_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace byte_words_test {
 
 TEST(ContainsOneOf, FindsACharacterAtEveryPlaceOfTextsOfEveryLength) {
   for (std::size_t length = 1; length < 40; ++length) {
@@ -37,5 +37,5 @@ TEST(HoldsLineFeedOrNonAscii, TellsPlainLinesFromTheOthers) {
   }
 }
 
-}  // namespace
+}  // namespace byte_words_test
 }  // namespace brimwork

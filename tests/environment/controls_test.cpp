@@ -7,7 +7,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace controls_test {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -138,5 +138,5 @@ TEST(Timer, TicksOnlyWhileItRuns) {
   EXPECT_FALSE(sample.form.tmrClock.IsRunning());
 }
 
-}  // namespace
+}  // namespace controls_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "environment/basic_lines.h"
 
 namespace brimwork {
-namespace {
+namespace declaration_test {
 
 /// The declared name, "" when the line declares nothing.
 std::string NameIn(std::string_view line) {
@@ -106,5 +106,5 @@ TEST(Declaration, WordsThatOnlyStartLikeOneAreNone) {
   }
 }
 
-}  // namespace
+}  // namespace declaration_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace form_keyboard_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -177,5 +177,5 @@ TEST(Keys, AreNothingWhileTheFormIsHidden) {
   EXPECT_THAT(sample.form.events, IsEmpty());
 }
 
-}  // namespace
+}  // namespace form_keyboard_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace form_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -195,5 +195,5 @@ TEST(Form, RefusesATableThatNamesAControlItHasNot) {
   EXPECT_THROW(form.Load(), std::logic_error);
 }
 
-}  // namespace
+}  // namespace form_test
 }  // namespace brimwork

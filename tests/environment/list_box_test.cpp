@@ -6,7 +6,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace list_box_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -83,5 +83,5 @@ TEST(ComboBox, CannotBeUsedWhileItIsDisabled) {
   EXPECT_EQ(sample.form.cmbWords.ListIndex, -1);
 }
 
-}  // namespace
+}  // namespace list_box_test
 }  // namespace brimwork

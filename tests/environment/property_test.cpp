@@ -7,7 +7,7 @@
 #include "environment/text.h"
 
 namespace brimwork {
-namespace {
+namespace property_test {
 
 struct Owner : PropertyOwner {
   void Changed(PropertyId property) override { changes.push_back(property); }
@@ -71,5 +71,5 @@ TEST(TextProperty, GoesWhereverATextGoes) {
   EXPECT_FALSE(owner.Tag.IsEmpty());
 }
 
-}  // namespace
+}  // namespace property_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace text_box_test {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -143,5 +143,5 @@ TEST(TextBox, KeepsItsTextWhileItIsDisabled) {
   EXPECT_THAT(sample.form.events, Not(Contains("txtNotes Change")));
 }
 
-}  // namespace
+}  // namespace text_box_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork {
-namespace {
+namespace text_test {
 
 using testing::ElementsAre;
 
@@ -157,5 +157,5 @@ TEST(Text, ToIntegerRaisesOverflowBeyondSixteenBits) {
   EXPECT_EQ(ErrorNumberOfToInteger("&H10000"), error_number::kOverflow);
 }
 
-}  // namespace
+}  // namespace text_test
 }  // namespace brimwork

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace utf8_test {
 
 TEST(Utf8, FindsTheFirstByteAboveAsciiWhereverItStands) {
   for (std::size_t size = 0; size < 80; ++size) {
@@ -38,5 +38,5 @@ TEST(Utf8, RefusesWhatIsNoCharacter) {
   EXPECT_EQ(Utf8Size(""), 0u);
 }
 
-}  // namespace
+}  // namespace utf8_test
 }  // namespace brimwork

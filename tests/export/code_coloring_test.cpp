@@ -11,7 +11,7 @@
 #include "support/text_colors.h"
 
 namespace brimwork {
-namespace {
+namespace code_coloring_test {
 
 using testing::ElementsAre;
 
@@ -275,5 +275,5 @@ TEST_F(CodeColors, LeaveFontAndSize) {
   }
 }
 
-}  // namespace
+}  // namespace code_coloring_test
 }  // namespace brimwork

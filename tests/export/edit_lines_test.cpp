@@ -5,7 +5,7 @@
 #include "support/export_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace edit_lines_test {
 
 struct EditLines : testing::Test, ExportFixture {
   RichTextBox& editor = form.rtf();
@@ -93,5 +93,5 @@ TEST_F(EditLines, AreEmptyWhereTheControlKnowsNoStart) {
   EXPECT_EQ(GetCurrentLine(control), "");
 }
 
-}  // namespace
+}  // namespace edit_lines_test
 }  // namespace brimwork

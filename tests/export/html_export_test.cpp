@@ -7,7 +7,7 @@
 #include "support/export_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace html_export_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -185,5 +185,5 @@ TEST(HtmlExportPointer, OfTheUserIsPutBackEvenWhenThatFailsAtFirst) {
   EXPECT_EQ(fixture.notingScreen.MousePointer(), mouse_pointer::kDefault);
 }
 
-}  // namespace
+}  // namespace html_export_test
 }  // namespace brimwork

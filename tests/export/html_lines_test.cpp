@@ -7,7 +7,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace html_lines_test {
 
 using testing::ElementsAre;
 
@@ -192,5 +192,5 @@ TEST(HtmlLines, EachRunStartsAnew) {
   EXPECT_EQ(html.Convert("If "), K + "If ");
 }
 
-}  // namespace
+}  // namespace html_lines_test
 }  // namespace brimwork

@@ -13,7 +13,7 @@
 #include "support/export_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace html_properties_test {
 
 constexpr unsigned kModules = 120;
 constexpr unsigned kSoups = 4000;
@@ -202,5 +202,5 @@ TEST(HtmlProperties, ThePlainWalkMakesTheKnownPages) {
   EXPECT_EQ(PlainPage("").Of({""}), "<pre>\r\n" + kKeywordOpen + " \r\n</pre>\r\n");
 }
 
-}  // namespace
+}  // namespace html_properties_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace keyword_list_test {
 
 constexpr const char* kWords = "If,Then,End If,ReDim";
 
@@ -114,5 +114,5 @@ TEST(KeywordList, CanBeLong) {
   EXPECT_EQ(keywords.SpellingOf("word"), "Word");
 }
 
-}  // namespace
+}  // namespace keyword_list_test
 }  // namespace brimwork

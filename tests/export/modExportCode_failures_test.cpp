@@ -9,7 +9,7 @@
 #include "support/export_module.h"
 
 namespace brimwork {
-namespace {
+namespace modExportCode_failures_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -201,5 +201,5 @@ INSTANTIATE_TEST_SUITE_P(Exports, EveryCallOfAnExport,
                                                           Fault::Kind::kRaisesBehind,
                                                           Fault::Kind::kAnswersNothing)));
 
-}  // namespace
+}  // namespace modExportCode_failures_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/export_module.h"
 
 namespace brimwork {
-namespace {
+namespace modExportCode_test {
 
 using testing::Contains;
 using testing::Each;
@@ -338,5 +338,5 @@ TEST_F(ExportCommand, AQuickExportReturnsWhetherItWrote) {
   EXPECT_EQ(notingScreen.MousePointer(), mouse_pointer::kDefault);
 }
 
-}  // namespace
+}  // namespace modExportCode_test
 }  // namespace brimwork

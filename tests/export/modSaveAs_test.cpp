@@ -9,7 +9,7 @@
 #include "support/export_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modSaveAs_test {
 
 using testing::SizeIs;
 
@@ -130,5 +130,5 @@ TEST(FileNameOf, IsWhatFollowsTheLastBackslash) {
   EXPECT_EQ(FileNameOf(""), "");
 }
 
-}  // namespace
+}  // namespace modSaveAs_test
 }  // namespace brimwork

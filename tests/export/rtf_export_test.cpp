@@ -8,7 +8,7 @@
 #include "support/text_colors.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_export_test {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -183,5 +183,5 @@ INSTANTIATE_TEST_SUITE_P(
         std::pair("RichTextBox.SetSelColor", 3), std::pair("RichTextBox.SelRTF", 1),
         std::pair("RichTextBox.SetTextRTF", 1), std::pair("RichTextBox.SaveFile", 1)));
 
-}  // namespace
+}  // namespace rtf_export_test
 }  // namespace brimwork

@@ -15,7 +15,7 @@
 #include "support/text_colors.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_properties_test {
 
 constexpr unsigned kModules = 120;
 constexpr unsigned kSoups = 4000;
@@ -180,5 +180,5 @@ TEST(RtfProperties, ThePlainWalkGivesTheKnownColors) {
   EXPECT_EQ(plain.colors, "nn...nnnn.gg...........");
 }
 
-}  // namespace
+}  // namespace rtf_properties_test
 }  // namespace brimwork

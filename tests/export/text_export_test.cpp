@@ -7,7 +7,7 @@
 #include "support/export_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace text_export_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -120,5 +120,5 @@ TEST_F(TextExport, FailsWhereTheCodePageHasNotACharacter) {
   EXPECT_THAT(errors, SizeIs(1));
 }
 
-}  // namespace
+}  // namespace text_export_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace word_positions_test {
 
 int NeverAsked(std::string_view word) {
   ADD_FAILURE() << "searched again: " << word;
@@ -79,5 +79,5 @@ TEST(WordPositions, RemembersNothingOfASearchThatFailed) {
   EXPECT_EQ(positions.Of("Dim", [](std::string_view) { return 7; }), 7);
 }
 
-}  // namespace
+}  // namespace word_positions_test
 }  // namespace brimwork

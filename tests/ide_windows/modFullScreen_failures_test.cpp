@@ -17,7 +17,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace modFullScreen_failures_test {
 
 using testing::ElementsAre;
 
@@ -240,5 +240,5 @@ TEST_F(FullScreenFailures, WhicheverSingleCallFailsEveryWindowIsBackInTheEnd) {
   }
 }
 
-}  // namespace
+}  // namespace modFullScreen_failures_test
 }  // namespace brimwork

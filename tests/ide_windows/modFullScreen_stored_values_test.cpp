@@ -14,7 +14,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace modFullScreen_stored_values_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -154,5 +154,5 @@ TEST_F(FullScreenStoredValues, HidingReplacesWhatTheListsHeld) {
   EXPECT_EQ(Stored("ToggledMenus"), "");
 }
 
-}  // namespace
+}  // namespace modFullScreen_stored_values_test
 }  // namespace brimwork

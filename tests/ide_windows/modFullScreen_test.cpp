@@ -15,7 +15,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace modFullScreen_test {
 
 using testing::ElementsAre;
 
@@ -312,5 +312,5 @@ TEST_F(FullScreen, TheHourglassIsShownMeanwhileAndTheDefaultPointerAfterwards) {
                                            std::pair(mouse_pointer::kDefault, false)));
 }
 
-}  // namespace
+}  // namespace modFullScreen_test
 }  // namespace brimwork

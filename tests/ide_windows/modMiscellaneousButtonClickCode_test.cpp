@@ -16,7 +16,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace modMiscellaneousButtonClickCode_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -273,5 +273,5 @@ TEST_F(CloseWindows, WithoutAnyCodeWindowNothingHappens) {
   EXPECT_THAT(Open(), IsEmpty());
 }
 
-}  // namespace
+}  // namespace modMiscellaneousButtonClickCode_test
 }  // namespace brimwork

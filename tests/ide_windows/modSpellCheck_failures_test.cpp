@@ -14,7 +14,7 @@
 #include "support/spelling_corrector.h"
 
 namespace brimwork {
-namespace {
+namespace modSpellCheck_failures_test {
 
 using testing::AnyOf;
 using testing::ElementsAre;
@@ -186,5 +186,5 @@ TEST(SpellCheckFailure, LeavesTheDesktopAndTheLinesWholeWhicheverCallFails) {
   }
 }
 
-}  // namespace
+}  // namespace modSpellCheck_failures_test
 }  // namespace brimwork

@@ -11,7 +11,7 @@
 #include "support/spelling_corrector.h"
 
 namespace brimwork {
-namespace {
+namespace modSpellCheck_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -237,5 +237,5 @@ TEST(CheckSpellingInWord, KeepsBlanksAroundTheText) {
   EXPECT_EQ(CheckedWithMark("  text ", "\r\n"), "  text ");
 }
 
-}  // namespace
+}  // namespace modSpellCheck_test
 }  // namespace brimwork

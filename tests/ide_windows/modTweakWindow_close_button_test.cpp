@@ -11,7 +11,7 @@
 #include "support/faulty_environment.h"
 
 namespace brimwork {
-namespace {
+namespace modTweakWindow_close_button_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -190,5 +190,5 @@ TEST_F(TopMost, AFailureIsPassedOver) {
   EXPECT_THAT(faulty.Operations(), ElementsAre("NativeWindows.SetWindowPos"));
 }
 
-}  // namespace
+}  // namespace modTweakWindow_close_button_test
 }  // namespace brimwork

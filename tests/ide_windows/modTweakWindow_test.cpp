@@ -6,7 +6,7 @@
 #include "support/desktop_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modTweakWindow_test {
 
 constexpr WindowHandle kMain = 7;
 
@@ -163,5 +163,5 @@ TEST_F(BusyTweakWindow, TheGuardTriesAgainWhenUnlockingFailsForAMoment) {
   EXPECT_EQ(busy.MousePointer(), mouse_pointer::kDefault);
 }
 
-}  // namespace
+}  // namespace modTweakWindow_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "ide_windows/modSpellCheck.h"
 
 namespace brimwork {
-namespace {
+namespace spelling_pieces_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -110,5 +110,5 @@ TEST(SpellingPieces, CountCharactersForTheirColumnAndBytesForTheirPlace) {
               ElementsAre(SpellingPiece{5, 7, 6, false}, SpellingPiece{15, 5, 14, true}));
 }
 
-}  // namespace
+}  // namespace spelling_pieces_test
 }  // namespace brimwork

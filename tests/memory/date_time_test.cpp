@@ -8,7 +8,7 @@
 #include "support/scoped_variable.h"
 
 namespace brimwork {
-namespace {
+namespace date_time_test {
 
 std::string Refusal(std::string_view text) {
   try {
@@ -89,5 +89,5 @@ TEST(ResolveNow, WithoutBothItIsTheLocalTimeOfTheClock) {
   EXPECT_TRUE(now == before || now == after);
 }
 
-}  // namespace
+}  // namespace date_time_test
 }  // namespace brimwork

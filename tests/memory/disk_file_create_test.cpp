@@ -16,7 +16,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace disk_file_create_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -224,5 +224,5 @@ TEST_F(LookingAtAFile, RefusesWhatCannotBeReplaced) {
             In("pipe/a.txt") + ": lstat: Not a directory");
 }
 
-}  // namespace
+}  // namespace disk_file_create_test
 }  // namespace brimwork

@@ -21,7 +21,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace disk_file_test {
 
 namespace fs = std::filesystem;
 using testing::EndsWith;
@@ -429,5 +429,5 @@ TEST(WriteAll, WaitsForAReaderThatIsSlow) {
   close(ends[1]);
 }
 
-}  // namespace
+}  // namespace disk_file_test
 }  // namespace brimwork

@@ -18,7 +18,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace json_settings_area_test {
 
 namespace fs = std::filesystem;
 
@@ -274,5 +274,5 @@ TEST(DefaultSettingsPath, WithoutAnyFolderTheStoreIsEmptyAndCannotBeSavedTo) {
   }
 }
 
-}  // namespace
+}  // namespace json_settings_area_test
 }  // namespace brimwork

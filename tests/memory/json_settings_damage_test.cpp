@@ -10,7 +10,7 @@
 #include "support/json_settings_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace json_settings_damage_test {
 
 struct DamagedSettingsFile : JsonSettingsFixture {
   /// The error that each kind of access gives; the file has to stay as it is.
@@ -110,5 +110,5 @@ TEST_F(DamagedSettingsFile, TheErrorIsNoRunTimeError) {
   EXPECT_THROW(Get("Header"), SettingsFileError);
 }
 
-}  // namespace
+}  // namespace json_settings_damage_test
 }  // namespace brimwork

@@ -15,7 +15,7 @@
 #endif
 
 namespace brimwork {
-namespace {
+namespace locale_clock_test {
 
 TEST(LocaleClock, InThePlainLocalesADateHasNoLeadingZeros) {
   for (const char* locale : {"C", "POSIX", "C.UTF-8", "C.utf8"}) {
@@ -122,5 +122,5 @@ TEST_F(MadeLocale, LeavesTheLocaleOfTheProcessAlone) {
   EXPECT_EQ(std::setlocale(LC_ALL, nullptr), before);
 }
 
-}  // namespace
+}  // namespace locale_clock_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace memory_code_module_procedures_test {
 
 constexpr auto kProcedure = ProcKind::kProcedure;
 
@@ -69,5 +69,5 @@ TEST_F(ProceduresOfOneName, ALookUpMeansTheFirstAgainWhenTheNamedOneIsRenamed) {
   EXPECT_EQ(module.ProcBodyLine("C", kProcedure), 4);
 }
 
-}  // namespace
+}  // namespace memory_code_module_procedures_test
 }  // namespace brimwork

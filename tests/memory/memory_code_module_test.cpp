@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace memory_code_module_test {
 
 using testing::ElementsAre;
 
@@ -182,5 +182,5 @@ TEST_F(MemoryCodeModuleTest, AnUnknownProcedureRaisesErrorThirtyFive) {
   EXPECT_EQ(ErrorNumberOf([&] { module.ProcBodyLine("", ProcKind::kProcedure); }), 35);
 }
 
-}  // namespace
+}  // namespace memory_code_module_test
 }  // namespace brimwork

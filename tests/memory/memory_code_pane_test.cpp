@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace memory_code_pane_test {
 
 using testing::ElementsAre;
 
@@ -155,5 +155,5 @@ TEST_F(MemoryCodePaneTest, DeleteAtTheEndOfTheModuleDoesNothing) {
   EXPECT_THAT(Lines(), ElementsAre());
 }
 
-}  // namespace
+}  // namespace memory_code_pane_test
 }  // namespace brimwork

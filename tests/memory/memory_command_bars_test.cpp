@@ -10,7 +10,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork {
-namespace {
+namespace memory_command_bars_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -323,5 +323,5 @@ TEST_F(MemoryCommandBarsTest, AControlMayOutliveItsBars) {
   EXPECT_EQ(NumberOfErrorIn([&] { button->Caption(); }), 440);
 }
 
-}  // namespace
+}  // namespace memory_command_bars_test
 }  // namespace brimwork

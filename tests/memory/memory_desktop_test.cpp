@@ -11,7 +11,7 @@
 #include "memory/memory_shell_folders.h"
 
 namespace brimwork {
-namespace {
+namespace memory_desktop_test {
 
 TEST(MemoryScreen, FindsAWindowByItsExactTitle) {
   MemoryScreen screen;
@@ -101,5 +101,5 @@ TEST(FixedClock, GivesTheTextsItWasMadeWith) {
   EXPECT_EQ(clock.GeneralDate(), "1/2/2026 3:04:05 PM");
 }
 
-}  // namespace
+}  // namespace memory_desktop_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace memory_dialog_windows_test {
 
 struct MemoryDialogWindowsTest : testing::Test {
   WindowHandle AddChild(const std::string& text) {
@@ -140,5 +140,5 @@ TEST_F(MemoryDialogWindowsTest, AnswersWhetherAButtonIsTickedAndHasTheFocus) {
   EXPECT_EQ(state(), button_state::kChecked | button_state::kHasFocus);
 }
 
-}  // namespace
+}  // namespace memory_dialog_windows_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace memory_form_host_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -135,5 +135,5 @@ TEST(MemoryFormHost, KeepsNoFormWhoseWindowCouldNotBeMadeOrShown) {
   }
 }
 
-}  // namespace
+}  // namespace memory_form_host_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "environment/form.h"
 
 namespace brimwork {
-namespace {
+namespace memory_form_screen_test {
 
 constexpr FormLayout kLayout{.name = "frmAny"};
 
@@ -60,5 +60,5 @@ TEST(MemoryScreenForm, MeasuresTheLongestOfSeveralLines) {
   EXPECT_EQ(form.TextHeight("one\r\nthree\r\ntwo"), 3 * form.textHeight);
 }
 
-}  // namespace
+}  // namespace memory_form_screen_test
 }  // namespace brimwork

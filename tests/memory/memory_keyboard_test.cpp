@@ -10,7 +10,7 @@
 #include "memory/memory_clipboard.h"
 
 namespace brimwork {
-namespace {
+namespace memory_keyboard_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -93,5 +93,5 @@ TEST_F(MemoryKeyboardTest, KeysThatAreNotUnderstoodRaiseErrorFiveAndSendNothing)
   EXPECT_THAT(target.notes, IsEmpty());
 }
 
-}  // namespace
+}  // namespace memory_keyboard_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "memory/memory_text_window.h"
 
 namespace brimwork {
-namespace {
+namespace memory_message_boxes_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -215,5 +215,5 @@ TEST(MemoryKeyboardInText, TakesEnterAndTabForText) {
   EXPECT_EQ(text.Text(), "a\r\n\tb");
 }
 
-}  // namespace
+}  // namespace memory_message_boxes_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace memory_native_windows_test {
 
 using testing::ElementsAre;
 using testing::Pair;
@@ -95,5 +95,5 @@ TEST_F(MemoryNativeWindowsTest, RecordsPositionsAndMessagesOfItsWindowsOnly) {
   EXPECT_EQ(native.windows.size(), 1u);
 }
 
-}  // namespace
+}  // namespace memory_native_windows_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork {
-namespace {
+namespace memory_project_test {
 
 struct MemoryProjectTest : testing::Test {
   MemoryProject project{[] { return std::string("Stock"); }};
@@ -60,5 +60,5 @@ TEST_F(MemoryProjectTest, AComponentMayNotHaveAnothersName) {
   EXPECT_EQ(component->Name(), "module1");
 }
 
-}  // namespace
+}  // namespace memory_project_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include <array>
 
 namespace brimwork {
-namespace {
+namespace memory_registry_test {
 
 struct Queried {
   int status = 0;
@@ -89,5 +89,5 @@ TEST_F(MemoryRegistryTest, CountsOpensAndClosesThatFailedToo) {
   EXPECT_EQ(registry.Closes(), 1);
 }
 
-}  // namespace
+}  // namespace memory_registry_test
 }  // namespace brimwork

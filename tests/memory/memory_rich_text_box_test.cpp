@@ -11,7 +11,7 @@
 #include "memory/text_codec.h"
 
 namespace brimwork {
-namespace {
+namespace memory_rich_text_box_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -323,5 +323,5 @@ TEST(MemoryRichTextBoxes, CreatesControlsOfDifferentHandles) {
   EXPECT_EQ(second->Text(), "");
 }
 
-}  // namespace
+}  // namespace memory_rich_text_box_test
 }  // namespace brimwork

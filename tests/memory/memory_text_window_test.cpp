@@ -6,7 +6,7 @@
 #include "memory/memory_keyboard.h"
 
 namespace brimwork {
-namespace {
+namespace memory_text_window_test {
 
 struct MemoryTextWindowTest : testing::Test {
   /// The text after keystrokes with this selection.
@@ -108,5 +108,5 @@ TEST_F(MemoryTextWindowTest, PastedLinesEndInCrLf) {
   EXPECT_EQ(After("^(v)", 0, 0), "1\r\n2");
 }
 
-}  // namespace
+}  // namespace memory_text_window_test
 }  // namespace brimwork

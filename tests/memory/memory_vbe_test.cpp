@@ -8,7 +8,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace memory_vbe_test {
 
 using testing::ElementsAre;
 
@@ -145,5 +145,5 @@ TEST_F(MemoryVbeTest, TheImmediateWindowTakesText) {
   EXPECT_EQ(usual.immediateText->Text(), "? Now");
 }
 
-}  // namespace
+}  // namespace memory_vbe_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "memory/memory_text_window.h"
 
 namespace brimwork {
-namespace {
+namespace memory_window_test {
 
 using testing::ElementsAre;
 
@@ -140,5 +140,5 @@ TEST_F(MemoryWindowTest, TellsWhichWindowGotTheFocusAndWhichGoesAway) {
   EXPECT_THAT(told, ElementsAre("active Immediate", "gone Module1 (Code)"));
 }
 
-}  // namespace
+}  // namespace memory_window_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace memory_window_timers_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -146,5 +146,5 @@ TEST_F(MemoryWindowTimersTest, AreRememberedAsTheyWereAskedFor) {
   EXPECT_THAT(timers.Started(), ElementsAre(Timer{window, 1, 0}, Timer{window, 2, 70}));
 }
 
-}  // namespace
+}  // namespace memory_window_timers_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "memory/source_error.h"
 
 namespace brimwork {
-namespace {
+namespace module_preamble_test {
 
 /// What stands behind the preamble.
 std::string Visible(const std::string& text) {
@@ -132,5 +132,5 @@ TEST(AttributeLine, ReadsTheModulesName) {
     EXPECT_EQ(ModuleNameIn(line), "") << line;
 }
 
-}  // namespace
+}  // namespace module_preamble_test
 }  // namespace brimwork

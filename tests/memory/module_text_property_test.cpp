@@ -9,7 +9,7 @@
 #include "memory/module_text.h"
 
 namespace brimwork {
-namespace {
+namespace module_text_property_test {
 
 struct ModelLine {
   std::string text;
@@ -163,5 +163,5 @@ TEST(ModuleTextRewrittenOften, KeepsTheLinesAroundInsertionsAndDeletionsRight) {
   EXPECT_EQ(text.Joined(), "first\r\nlast");
 }
 
-}  // namespace
+}  // namespace module_text_property_test
 }  // namespace brimwork

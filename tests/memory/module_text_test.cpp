@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace module_text_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -176,5 +176,5 @@ TEST(ModuleText, MovedElsewhereKeepsItsLines) {
   EXPECT_THAT(LinesIn(moved), ElementsAre("changed", "b", "c", "d"));
 }
 
-}  // namespace
+}  // namespace module_text_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "memory/memory_settings_area.h"
 
 namespace brimwork {
-namespace {
+namespace overlay_settings_area_test {
 
 struct OverlaySettingsAreaTest : testing::Test {
   OverlaySettingsAreaTest() { behind.SaveSetting("Brimwork", "Settings", "Separator", "'stored"); }
@@ -64,5 +64,5 @@ TEST_F(OverlaySettingsAreaTest, OtherSectionsAreHandedThrough) {
   EXPECT_EQ(behind.GetSetting("Other", "Settings", "Separator", ""), "'other");
 }
 
-}  // namespace
+}  // namespace overlay_settings_area_test
 }  // namespace brimwork

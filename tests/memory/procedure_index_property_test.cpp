@@ -10,7 +10,7 @@
 #include "support/procedure_list.h"
 
 namespace brimwork {
-namespace {
+namespace procedure_index_property_test {
 
 constexpr const char* kFragments[] = {"Sub A()",
                                       "Private Function B() As Long",
@@ -153,5 +153,5 @@ TEST_P(ProcedureIndexUnderRandomEdits, AnEditedModuleNamesTheProceduresOfItsText
 
 INSTANTIATE_TEST_SUITE_P(Seeds, ProcedureIndexUnderRandomEdits, testing::Range(1u, 21u));
 
-}  // namespace
+}  // namespace procedure_index_property_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/procedure_list.h"
 
 namespace brimwork {
-namespace {
+namespace procedure_index_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -216,5 +216,5 @@ TEST(ProcedureIndex, HeadsThatAreClosedEachAreProceduresOfTheirOwn) {
       ElementsAre("F 2/2/3", "F 4/5/6"));
 }
 
-}  // namespace
+}  // namespace procedure_index_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace project_file_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -257,5 +257,5 @@ TEST_F(ProjectFile, DoesNotOwnAFileOfTheSameNameElsewhere) {
   EXPECT_EQ(ProjectNameFor(Write("modA.bas")), "");
 }
 
-}  // namespace
+}  // namespace project_file_test
 }  // namespace brimwork

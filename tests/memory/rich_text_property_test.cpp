@@ -10,7 +10,7 @@
 #include "support/random_rich_text.h"
 
 namespace brimwork {
-namespace {
+namespace rich_text_property_test {
 
 struct ModelCharacter {
   std::string text;
@@ -159,5 +159,5 @@ TEST_P(RichTextUnderRandomEdits, IsTheSameAsAPlainListOfCharacters) {
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RichTextUnderRandomEdits, testing::Range(1u, 31u));
 
-}  // namespace
+}  // namespace rich_text_property_test
 }  // namespace brimwork

@@ -11,7 +11,7 @@
 #include "environment/utf8.h"
 
 namespace brimwork {
-namespace {
+namespace rich_text_test {
 
 using testing::ElementsAre;
 
@@ -342,5 +342,5 @@ TEST(RichTextEquality, ComparesTextAndFormatsButNotTheWayThere) {
   EXPECT_FALSE(one == other);
 }
 
-}  // namespace
+}  // namespace rich_text_test
 }  // namespace brimwork

@@ -12,7 +12,7 @@
 #include "support/random_rich_text.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_reader_robustness_test {
 
 constexpr std::string_view kOdd =
     "{\\rtf1\\ansi\\ansicpg1251\\deff0{\\fonttbl{\\f0\\fcharset128 \\'82\\'6c{\\*\\falt X};}"
@@ -120,5 +120,5 @@ TEST(CutOffRichText, IsRefusedWhereverItIsCut) {
   }
 }
 
-}  // namespace
+}  // namespace rtf_reader_robustness_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_reader_test {
 
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -305,5 +305,5 @@ TEST(RtfReader, RefusesGroupsNestedBeyondReason) {
   EXPECT_THAT(ErrorOf("{\\rtf1 " + std::string(2'000'000, '{')), HasSubstr("nested too deep"));
 }
 
-}  // namespace
+}  // namespace rtf_reader_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "support/random_rich_text.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_round_trip_test {
 
 void ExpectComesBack(const RichText& content) {
   const std::string document = WriteRtf(content);
@@ -72,5 +72,5 @@ TEST(RichTextRoundTrip, GivesEveryAsciiCharacterBehindEveryOther) {
   ExpectComesBack(content);
 }
 
-}  // namespace
+}  // namespace rtf_round_trip_test
 }  // namespace brimwork

@@ -17,7 +17,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_tools_test {
 
 using testing::HasSubstr;
 
@@ -123,5 +123,5 @@ TEST_F(RtfTool, AnOfficeProgramsRichTextIsRead) {
   EXPECT_EQ(ColorsInLines(read), ColorsInLines(Code()));
 }
 
-}  // namespace
+}  // namespace rtf_tools_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "environment/utf8.h"
 
 namespace brimwork {
-namespace {
+namespace rtf_writer_test {
 
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -172,5 +172,5 @@ TEST(RtfWriter, WritesTheFormatWhereNothingIsSelected) {
   EXPECT_THAT(WriteRtf(code, {9, 9}), EndsWith("\\cf1\\f0\\fs16\\par\r\n}\r\n"));
 }
 
-}  // namespace
+}  // namespace rtf_writer_test
 }  // namespace brimwork

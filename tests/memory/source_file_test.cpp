@@ -10,7 +10,7 @@
 #include "memory/source_error.h"
 
 namespace brimwork {
-namespace {
+namespace source_file_test {
 
 constexpr const char* kWindows = "WINDOWS-1252";
 
@@ -432,5 +432,5 @@ TEST(SourceFile, ReadsAMillionLinesInAWink) {
   EXPECT_EQ(file.TakeText().Count(), 1'000'000);
 }
 
-}  // namespace
+}  // namespace source_file_test
 }  // namespace brimwork

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace source_layout_test {
 
 struct Laid {
   std::shared_ptr<const std::string> text;
@@ -84,5 +84,5 @@ TEST(SourceLayout, TakesALoneCrForText) {
   EXPECT_EQ(laid.parsed.text.Line(2), "c\r");
 }
 
-}  // namespace
+}  // namespace source_layout_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace text_codec_test {
 
 using testing::HasSubstr;
 
@@ -277,5 +277,5 @@ TEST(TextCodec, DecodesTheStartOfATextThatBreaksOff) {
   EXPECT_EQ(wide.DecodeStart(std::string_view("a\0b\0c", 5)), "ab");
 }
 
-}  // namespace
+}  // namespace text_codec_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/shown_windows.h"
 
 namespace brimwork {
-namespace {
+namespace usual_command_bars_test {
 
 using testing::ElementsAre;
 
@@ -48,5 +48,5 @@ TEST_F(UsualCommandBarsTest, TheCodeWindowsPopupHasItsToggleMenuAmongOthers) {
   EXPECT_GT(bars.codeWindow->Controls()->Count(), 9);
 }
 
-}  // namespace
+}  // namespace usual_command_bars_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace xdg_shell_folders_test {
 
 struct XdgShellFoldersTest : testing::Test {
   void Configure(std::string_view lines) {
@@ -97,5 +97,5 @@ TEST_F(XdgShellFoldersTest, AnUnknownHomeFolderRaisesErrorFive) {
   }
 }
 
-}  // namespace
+}  // namespace xdg_shell_folders_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork {
-namespace {
+namespace code_generator_test {
 
 std::string Escaped(std::string_view text) { return EscapePrompt(text, LineEnds::kConverted); }
 
@@ -189,5 +189,5 @@ TEST(CustomMsgBoxCode, WritesThePromptOverSeveralLiterals) {
             "\"two\",36,\"Stock\",-1,-1,-1,\"\",,2,\"\",\"&Yes,&No\"");
 }
 
-}  // namespace
+}  // namespace code_generator_test
 }  // namespace brimwork

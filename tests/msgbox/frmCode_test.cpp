@@ -9,7 +9,7 @@
 #include "support/form_checks.h"
 
 namespace brimwork {
-namespace {
+namespace frmCode_test {
 
 using testing::IsEmpty;
 
@@ -56,5 +56,5 @@ TEST_F(CodeViewer, ShowsCodeOfSeveralLines) {
 
 TEST_F(CodeViewer, FitsItsControls) { EXPECT_THAT(LayoutFaults(form), IsEmpty()); }
 
-}  // namespace
+}  // namespace frmCode_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include "support/designer_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace frmMsgBox_custom_test {
 
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -298,5 +298,5 @@ TEST_F(CustomFeatures, LetTheUserLeaveWithoutACaption) {
   EXPECT_THAT(memory.dialogs.Messages(), IsEmpty());
 }
 
-}  // namespace
+}  // namespace frmMsgBox_custom_test
 }  // namespace brimwork

@@ -11,7 +11,7 @@
 #include "support/designer_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace frmMsgBox_result_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -164,5 +164,5 @@ TEST_F(Designer, TakesTheCodeViewerAlongWhenItLeaves) {
   EXPECT_THAT(memory.formHost.LoadedForms(), IsEmpty());
 }
 
-}  // namespace
+}  // namespace frmMsgBox_result_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "support/form_checks.h"
 
 namespace brimwork {
-namespace {
+namespace frmMsgBox_styles_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -162,5 +162,5 @@ TEST_F(DesignerStyle, IsReachedByTheKeyboardAlone) {
   EXPECT_TRUE(form.chkMsgBox(3).Value);
 }
 
-}  // namespace
+}  // namespace frmMsgBox_styles_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_captions_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -69,5 +69,5 @@ TEST_P(CustomMsgBoxCaptions, LeaveTheResultsAsTheyAre) {
       message_box_result::kNo);
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_captions_test
 }  // namespace brimwork

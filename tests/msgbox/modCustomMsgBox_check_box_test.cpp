@@ -5,7 +5,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_check_box_test {
 
 using testing::ElementsAre;
 using testing::SizeIs;
@@ -166,5 +166,5 @@ TEST(CustomMsgBoxCheckBoxValue, IsDroppedForACallerThatDoesNotAskForIt) {
   EXPECT_EQ(msgBox.State().MsgBoxCheckBoxHWND, 0u);
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_check_box_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_failures_test {
 
 /// One box with everything over an environment of its own.
 struct FailingBox : MemoryEnvironment {
@@ -90,5 +90,5 @@ TEST_P(CustomMsgBoxFailures, ToKillATimerLetTheTimerTryAgain) {
   EXPECT_EQ(box.windowTimers.Count(), 0u);
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_failures_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_place_test {
 
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -86,5 +86,5 @@ TEST_P(CustomMsgBoxPlace, IsReachedWhileTheBoxHasJustComeUp) {
   EXPECT_EQ(windowTimers.Count(), 0u);
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_place_test
 }  // namespace brimwork

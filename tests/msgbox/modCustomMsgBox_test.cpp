@@ -8,7 +8,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -239,5 +239,5 @@ TEST(CustomMsgBox, TheArgumentsThatAreLeftOutAskForNothing) {
   EXPECT_THAT(state.MsgBoxOriginalButtonText, IsEmpty());
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_test
 }  // namespace brimwork

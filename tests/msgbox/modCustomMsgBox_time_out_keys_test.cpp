@@ -5,7 +5,7 @@
 #include "support/special_box_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modCustomMsgBox_time_out_keys_test {
 
 using testing::ElementsAre;
 
@@ -88,5 +88,5 @@ TEST_P(CustomMsgBoxTimeOutKeys, ComeWhenTheBoxIsInFront) {
   EXPECT_GT(Last().window.cameToFront, nativeWindows.windows[other].cameToFront);
 }
 
-}  // namespace
+}  // namespace modCustomMsgBox_time_out_keys_test
 }  // namespace brimwork

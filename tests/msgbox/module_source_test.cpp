@@ -21,7 +21,7 @@
 #include "support/basic_program.h"
 
 namespace brimwork {
-namespace {
+namespace module_source_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -282,5 +282,5 @@ TEST(ModuleSource, HasNoLineLongerThanAHundredCharacters) {
   for (const auto line : SplitLines(kModCustomMsgBoxSource)) EXPECT_LE(line.size(), 100u) << line;
 }
 
-}  // namespace
+}  // namespace module_source_test
 }  // namespace brimwork

@@ -10,7 +10,7 @@
 #include "support/faulty_environment.h"
 
 namespace brimwork {
-namespace {
+namespace required_module_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -129,5 +129,5 @@ TEST_F(RequiredModule, RaisesAnErrorWhereTheNewComponentHasNoCode) {
   EXPECT_THROW(AddRequiredModule(parts, "' all of it"), RunTimeError);
 }
 
-}  // namespace
+}  // namespace required_module_test
 }  // namespace brimwork

@@ -18,7 +18,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace faces_test {
 
 namespace fs = std::filesystem;
 using testing::IsSubsetOf;
@@ -147,5 +147,5 @@ TEST(Faces, EveryFaceStandsOutFromLightToolbars) {
   }
 }
 
-}  // namespace
+}  // namespace faces_test
 }  // namespace brimwork

@@ -14,7 +14,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace pictures_test {
 
 using testing::ElementsAre;
 using testing::IsSubsetOf;
@@ -102,5 +102,5 @@ TEST(ApplicationIcon, IsDrawnPixelByPixelInItsTwoSmallSizes) {
   }
 }
 
-}  // namespace
+}  // namespace pictures_test
 }  // namespace brimwork

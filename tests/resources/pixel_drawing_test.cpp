@@ -7,7 +7,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace pixel_drawing_test {
 
 constexpr Colour kRed = 0xFF0000;
 constexpr Colour kNavy = 0x000080;
@@ -56,5 +56,5 @@ TEST(PixelDrawing, RefusesSmoothEdges) {
   EXPECT_THROW(DrawPixels("<svg viewBox=\"0 0 3 2\" width=\"3\"></svg>"), std::runtime_error);
 }
 
-}  // namespace
+}  // namespace pixel_drawing_test
 }  // namespace brimwork

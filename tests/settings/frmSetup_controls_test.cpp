@@ -8,7 +8,7 @@
 #include "support/setup_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace frmSetup_controls_test {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
@@ -317,5 +317,5 @@ TEST(SetupBrowse, EmptiesThePathBoxWhenTheUserCancels) {
   EXPECT_EQ(setup.Stored(setting::kQuickExportPath), "");
 }
 
-}  // namespace
+}  // namespace frmSetup_controls_test
 }  // namespace brimwork

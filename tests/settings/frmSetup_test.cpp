@@ -11,7 +11,7 @@
 #include "support/setup_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace frmSetup_test {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -285,5 +285,5 @@ TEST(SetupDialog, ClosesStoresTheOthersAndTellsTheUserWhenASettingCannotBeStored
   EXPECT_THAT(message.prompt, HasSubstr("Could not store every setting: "));
 }
 
-}  // namespace
+}  // namespace frmSetup_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/desktop_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modBrowseForPath_test {
 
 TEST(BrowseForFolder, GivesTheFolderThatTheUserPicked) {
   DesktopFixture desktop;
@@ -49,5 +49,5 @@ TEST(BrowseForFolder, ABrowserThatFailsReturnsAnEmptyText) {
   EXPECT_EQ(BrowseForFolder(environment, "Where to?", 0), "");
 }
 
-}  // namespace
+}  // namespace modBrowseForPath_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "support/desktop_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace modFolderPaths_test {
 
 TEST(GetSpecialFolderPath, GivesTheDesktopFolderAsTheShellHasIt) {
   DesktopFixture desktop;
@@ -24,5 +24,5 @@ TEST(GetSpecialFolderPath, AFolderThatTheShellDoesNotKnowGivesAnEmptyText) {
   EXPECT_EQ(GetSpecialFolderPath(desktop.environment, 99), "");
 }
 
-}  // namespace
+}  // namespace modFolderPaths_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "memory/memory_registry.h"
 
 namespace brimwork {
-namespace {
+namespace modRegistry_test {
 
 using namespace std::string_literals;
 
@@ -161,5 +161,5 @@ TEST(ReadRegistryValue, ClosesTheKeyWhenARunTimeErrorEndsTheReading) {
   EXPECT_EQ(registry.OpenHandles(), 0u);
 }
 
-}  // namespace
+}  // namespace modRegistry_test
 }  // namespace brimwork

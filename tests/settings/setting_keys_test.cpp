@@ -13,7 +13,7 @@
 #include "support/desktop_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace setting_keys_test {
 
 std::string SetupText(DesktopFixture& desktop, std::string_view key) {
   const SettingKey* entry = FindSettingKey(key);
@@ -156,5 +156,5 @@ TEST(SettingKeys, TheExportFolderIsEmptyWhereTheShellKnowsNoDesktop) {
   EXPECT_EQ(GetCommandSetting(desktop.environment, setting::kQuickExportPath), "");
 }
 
-}  // namespace
+}  // namespace setting_keys_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/desktop_fixture.h"
 
 namespace brimwork {
-namespace {
+namespace settings_settings_test {
 
 TEST(Settings, AKeyThatIsNotStoredGivesTheReadersDefault) {
   DesktopFixture desktop;
@@ -47,5 +47,5 @@ TEST(Settings, SettingTheSeparatorLeavesTheLineOfTheSpellCheckAsItIs) {
   EXPECT_EQ(GetCommandSetting(desktop.environment, setting::kSeperator), kSeparatorLine);
 }
 
-}  // namespace
+}  // namespace settings_settings_test
 }  // namespace brimwork

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace access_key_test {
 
 TEST(AccessKey, IsNoPartOfTheLookedUpForm) {
   EXPECT_EQ(LookedUpForm("E&xit"), "Exit");
@@ -33,5 +33,5 @@ TEST(AccessKey, LeavesTheFormOfApostrophesAsItWas) {
   EXPECT_EQ(InFormOf("dont't", "don't"), "don't");
 }
 
-}  // namespace
+}  // namespace access_key_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/small_dictionary.h"
 
 namespace brimwork {
-namespace {
+namespace dictionary_files_test {
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -105,5 +105,5 @@ TEST(LocaleDictionaryName, IsThatOfTheVariableThatCountsMost) {
   EXPECT_EQ(LocaleDictionaryName(), "cc_CC");
 }
 
-}  // namespace
+}  // namespace dictionary_files_test
 }  // namespace brimwork

@@ -9,7 +9,7 @@
 #include "support/small_dictionary.h"
 
 namespace brimwork {
-namespace {
+namespace dictionary_test {
 
 using testing::Contains;
 using testing::HasSubstr;
@@ -97,5 +97,5 @@ TEST(Dictionary, OfTheSystemKnowsAndSuggestsEnglishWords) {
   EXPECT_THAT(dictionary.Suggestions("recieve"), Contains("receive"));
 }
 
-}  // namespace
+}  // namespace dictionary_test
 }  // namespace brimwork

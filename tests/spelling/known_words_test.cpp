@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace known_words_test {
 
 TEST(KnownWords, HoldWhatWasAdded) {
   KnownWords words;
@@ -36,5 +36,5 @@ TEST(KnownWords, HoldThePossessive) {
   EXPECT_FALSE(words.Holds("'s"));
 }
 
-}  // namespace
+}  // namespace known_words_test
 }  // namespace brimwork

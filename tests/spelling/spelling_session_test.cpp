@@ -9,7 +9,7 @@
 #include "support/small_dictionary.h"
 
 namespace brimwork {
-namespace {
+namespace spelling_session_test {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -168,5 +168,5 @@ TEST_F(SpellingSessionTest, KnowsAWordOfTheRunThatCouldNotBeAddedToTheFile) {
   EXPECT_THAT(WrongIn(session, "teh"), IsEmpty());
 }
 
-}  // namespace
+}  // namespace spelling_session_test
 }  // namespace brimwork

@@ -13,7 +13,7 @@
 #include "support/temporary_folder.h"
 
 namespace brimwork {
-namespace {
+namespace user_words_test {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -115,5 +115,5 @@ TEST(DefaultUserWordsPath, IsInTheConfigFolder) {
   EXPECT_EQ(DefaultUserWordsPath(), "");
 }
 
-}  // namespace
+}  // namespace user_words_test
 }  // namespace brimwork

@@ -8,7 +8,7 @@
 #include <vector>
 
 namespace brimwork {
-namespace {
+namespace words_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -147,5 +147,5 @@ TEST(Words, EndSentencesAlsoBehindTypographicQuotes) {
   EXPECT_THAT(ProseOf("the “end.” now"), ElementsAre("the", "end", "now"));
 }
 
-}  // namespace
+}  // namespace words_test
 }  // namespace brimwork

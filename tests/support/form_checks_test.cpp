@@ -7,7 +7,7 @@
 #include "support/sample_form.h"
 
 namespace brimwork {
-namespace {
+namespace form_checks_test {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -136,5 +136,5 @@ TEST(FormChecks, KeepControlsOffTheBorderOfTheirFrame) {
               ElementsAre("lblText does not lie inside its container"));
 }
 
-}  // namespace
+}  // namespace form_checks_test
 }  // namespace brimwork

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 namespace brimwork {
-namespace {
+namespace kept_lines_test {
 
 TEST(KeptLines, NamesTheFirstLineThatIsMissing) {
   EXPECT_EQ(FirstLostLine("a = 1\r\nb = 2\r\nc = 3", "a = 1\r\nc = 3"), "b = 2");
@@ -36,5 +36,5 @@ TEST(KeptLines, CountsNoBlankLinesAndNoBareNumbers) {
   EXPECT_EQ(CountWrittenLines("a = 1\r\n \t\r\n12:    \r\n13:    b = 2\r\n"), 2);
 }
 
-}  // namespace
+}  // namespace kept_lines_test
 }  // namespace brimwork

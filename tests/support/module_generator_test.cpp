@@ -17,7 +17,7 @@
 #include "memory/memory_environment.h"
 
 namespace brimwork {
-namespace {
+namespace module_generator_test {
 
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
@@ -267,5 +267,5 @@ TEST(ModuleGenerator, WritesEveryOddityWithinAFewModules) {
   }
 }
 
-}  // namespace
+}  // namespace module_generator_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "transform/procedure_bounds.h"
 
 namespace brimwork {
-namespace {
+namespace alternative_heads_test {
 
 using testing::ElementsAreArray;
 
@@ -85,5 +85,5 @@ TEST(AlternativeHeads, TheProcedureIsTransformedOnce) {
                                 "ErrorTrap:", "TEST HANDLE", "End Sub"}));
 }
 
-}  // namespace
+}  // namespace alternative_heads_test
 }  // namespace brimwork

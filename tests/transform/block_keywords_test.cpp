@@ -5,7 +5,7 @@
 #include <string>
 
 namespace brimwork {
-namespace {
+namespace block_keywords_test {
 
 TEST(BlockKeywords, ProcedureOpenersAreAllFormsOfADeclarationsStart) {
   const KeywordTokens& openers = GetBlockKeywords().procedureOpeners;
@@ -80,5 +80,5 @@ TEST(BlockKeywords, AnEntryListedTwiceCountsTwice) {
   EXPECT_EQ(KeywordTokens("Do,Do").CountBehindColons("x: Do "), 2);
 }
 
-}  // namespace
+}  // namespace block_keywords_test
 }  // namespace brimwork

@@ -5,7 +5,7 @@
 #include "transform/procedure_bounds.h"
 
 namespace brimwork {
-namespace {
+namespace closing_line_test {
 
 /// The record of the procedure at a line.
 CurrentProcedure BoundsAt(int line, const TextLines& lines) {
@@ -27,5 +27,5 @@ TEST(ClosingLine, IsNoCommentThatEndsAnUnclosedProcedure) {
   EXPECT_EQ(record.LastBodyLine, 1);
 }
 
-}  // namespace
+}  // namespace closing_line_test
 }  // namespace brimwork

@@ -13,7 +13,7 @@
 #include "transform/modLineNumbers.h"
 
 namespace brimwork {
-namespace {
+namespace code_source_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -125,5 +125,5 @@ TEST(CodeSource, ThePointerIsRestoredWhenATransformationFails) {
   EXPECT_EQ(opened.environment.screen.MousePointer(), mouse_pointer::kDefault);
 }
 
-}  // namespace
+}  // namespace code_source_test
 }  // namespace brimwork

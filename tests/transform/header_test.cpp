@@ -6,7 +6,7 @@
 #include "transform/modCommentCode.h"
 
 namespace brimwork {
-namespace {
+namespace header_test {
 
 using testing::ElementsAre;
 
@@ -81,5 +81,5 @@ TEST(Header, TheTextOfAHeaderIsTheTemplateWithTheDate) {
   EXPECT_EQ(HeaderText(opened.addIn.environment, header_kind::kAdapted), "' adapted");
 }
 
-}  // namespace
+}  // namespace header_test
 }  // namespace brimwork

@@ -11,7 +11,7 @@
 #include "transform/modCommentCode.h"
 
 namespace brimwork {
-namespace {
+namespace modCleanUp_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -169,5 +169,5 @@ TEST(CleanUp, LineNumbersComeOffFirstAndGoBackOnLast) {
   EXPECT_THAT(opened.Lines(), ElementsAre(S, "Sub A()", "3:         x = 1", "End Sub 'A()", S));
 }
 
-}  // namespace
+}  // namespace modCleanUp_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace modCommentCode_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -166,5 +166,5 @@ TEST(CommentProcedure, EachOfSeveralProceduresOfOneNameIsFramed) {
               ElementsAre(S, "Sub A(x)", "End Sub 'A(x)", S, "Sub A(y)", "End Sub 'A(y)", S));
 }
 
-}  // namespace
+}  // namespace modCommentCode_test
 }  // namespace brimwork

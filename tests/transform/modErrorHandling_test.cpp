@@ -8,7 +8,7 @@
 #include "transform/procedure_bounds.h"
 
 namespace brimwork {
-namespace {
+namespace modErrorHandling_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -213,5 +213,5 @@ TEST(InsertErrorHandling, ResumeNextDoesNotLookAtTheLastLineOfALongerBody) {
   EXPECT_EQ(Resumed({"Sub A()", "x = 1", "On Error GoTo 0", "End Sub"})[1], "On Error Resume Next");
 }
 
-}  // namespace
+}  // namespace modErrorHandling_test
 }  // namespace brimwork

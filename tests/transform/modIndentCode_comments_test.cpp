@@ -6,7 +6,7 @@
 #include "transform/modIndentCode.h"
 
 namespace brimwork {
-namespace {
+namespace modIndentCode_comments_test {
 
 using testing::ElementsAre;
 
@@ -73,5 +73,5 @@ TEST(IndentedComments, CommentsBetweenTheLinesOfAStatementStandWhereTheStatement
               ElementsAre("    x = 1 + _", "        ' note", "        2", "    y = 1"));
 }
 
-}  // namespace
+}  // namespace modIndentCode_comments_test
 }  // namespace brimwork

@@ -7,7 +7,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace modIndentCode_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -234,5 +234,5 @@ TEST(IndentCode, ASecondRunChangesNothing) {
   EXPECT_THAT(Indented(once), ElementsAreArray(once));
 }
 
-}  // namespace
+}  // namespace modIndentCode_test
 }  // namespace brimwork

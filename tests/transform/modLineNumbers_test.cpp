@@ -6,7 +6,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace modLineNumbers_test {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -173,5 +173,5 @@ TEST(RemoveLineNumbers, TakesAwayWhatAddingPutInFront) {
   EXPECT_THAT(Unnumbered(Numbered(body)), ElementsAreArray(body));
 }
 
-}  // namespace
+}  // namespace modLineNumbers_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace procedure_bounds_test {
 
 /// The record of the procedure at a line.
 CurrentProcedure BoundsAt(int line, const TextLines& lines) {
@@ -158,5 +158,5 @@ TEST(ProcedureBounds, ARecordHoldsTheLinesOfItsProcedureOnly) {
   EXPECT_FALSE(record.Holds(4));
 }
 
-}  // namespace
+}  // namespace procedure_bounds_test
 }  // namespace brimwork

@@ -6,7 +6,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace procedure_walk_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -150,5 +150,5 @@ TEST(ProcedureWalk, DoesNotActOnTheRecordOfAnEarlierQuery) {
   EXPECT_THAT(module.reports, ElementsAre(Pair(1, 5)));
 }
 
-}  // namespace
+}  // namespace procedure_walk_test
 }  // namespace brimwork

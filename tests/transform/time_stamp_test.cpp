@@ -5,7 +5,7 @@
 #include "support/opened_module.h"
 
 namespace brimwork {
-namespace {
+namespace time_stamp_test {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -83,5 +83,5 @@ TEST(TimeStamp, GivesTheClipboardsTextBackWhenTheKeystrokeFails) {
   EXPECT_EQ(memory.clipboard.GetText(), "the user's");
 }
 
-}  // namespace
+}  // namespace time_stamp_test
 }  // namespace brimwork
