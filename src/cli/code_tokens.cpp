@@ -8,8 +8,6 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kTypeCharacters = "%&!#@$";
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 bool IsNameStart(char c) {
   const char upper = ToUpperAscii(c);
   return (upper >= 'A' && upper <= 'Z') || static_cast<unsigned char>(c) > 127;

@@ -3,8 +3,8 @@
 namespace brimwork {
 namespace {
 
-constexpr Color kBlack = Rgb(0, 0, 0);
-constexpr Color kWhite = Rgb(255, 255, 255);
+constexpr Color kBarText = Rgb(0, 0, 0);
+constexpr Color kBarBack = Rgb(255, 255, 255);
 
 constexpr ImageLayout kFaces[] = {
     {"COMMENT", "faces/comment"},
@@ -31,12 +31,12 @@ constexpr ImageLayout kFaces[] = {
 };
 
 // The bar's colours are fixed: of these two each is the inverse of the other.
-constexpr ControlLayout kControls[] = {
+constexpr ControlLayout kInfoControls[] = {
     {.name = "lblInfo", .place = {12, 12, 340, 16}},
     {.name = "picProgress",
      .place = {12, 34, 340, 24},
-     .foreColor = kBlack,
-     .backColor = kWhite,
+     .foreColor = kBarText,
+     .backColor = kBarBack,
      .borderStyle = border_style::kFixedSingle},
     {.name = "imlFaces", .images = kFaces},
     {.name = "picToolbar",
@@ -45,14 +45,14 @@ constexpr ControlLayout kControls[] = {
      .borderStyle = border_style::kNone},
 };
 
-constexpr FormLayout kLayout = {.name = "frmInfo",
-                                .width = 364,
-                                .height = 70,
-                                .startUpPosition = StartUpPosition::kCenterScreen,
-                                .controls = kControls};
+constexpr FormLayout kInfoLayout = {.name = "frmInfo",
+                                    .width = 364,
+                                    .height = 70,
+                                    .startUpPosition = StartUpPosition::kCenterScreen,
+                                    .controls = kInfoControls};
 
 }  // namespace
 
-const FormLayout& InfoLayout() { return kLayout; }
+const FormLayout& InfoLayout() { return kInfoLayout; }
 
 }  // namespace brimwork

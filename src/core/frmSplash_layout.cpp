@@ -10,7 +10,7 @@ constexpr Color kBlue = Rgb(0, 0, 192);
 
 constexpr ControlName kContainer = {"picContainer"};
 
-constexpr ControlLayout kControls[] = {
+constexpr ControlLayout kSplashControls[] = {
     {.name = "picContainer",
      .place = {0, 0, 344, 252},
      .backColor = kWhite,
@@ -61,17 +61,17 @@ constexpr ControlLayout kControls[] = {
     {.name = "Timer1", .isEnabled = false, .interval = 1000},
 };
 
-constexpr FormLayout kLayout = {.name = "frmSplash",
-                                .caption = "About Brimwork",
-                                .width = 344,
-                                .height = 252,
-                                .border = FormBorder::kNone,
-                                .hasControlBox = false,
-                                .startUpPosition = StartUpPosition::kCenterScreen,
-                                .controls = kControls};
+constexpr FormLayout kSplashLayout = {.name = "frmSplash",
+                                      .caption = "About Brimwork",
+                                      .width = 344,
+                                      .height = 252,
+                                      .border = FormBorder::kNone,
+                                      .hasControlBox = false,
+                                      .startUpPosition = StartUpPosition::kCenterScreen,
+                                      .controls = kSplashControls};
 
 }  // namespace
 
-const FormLayout& SplashLayout() { return kLayout; }
+const FormLayout& SplashLayout() { return kSplashLayout; }
 
 }  // namespace brimwork

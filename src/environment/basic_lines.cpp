@@ -10,7 +10,6 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsLetter(char c) { return ToUpperAscii(c) >= 'A' && ToUpperAscii(c) <= 'Z'; }
 bool IsAboveAscii(char c) { return static_cast<unsigned char>(c) > 127; }
 bool IsNameCharacter(char c) { return IsLetter(c) || IsDigit(c) || c == '_' || IsAboveAscii(c); }

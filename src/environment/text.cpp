@@ -12,8 +12,6 @@
 namespace brimwork {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 char ToLowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 bool IsContinuationByte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }

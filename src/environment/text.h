@@ -8,6 +8,8 @@
 
 namespace brimwork {
 
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 inline bool IsBlankOrTab(char c) { return c == ' ' || c == '\t'; }
 
 constexpr bool IsOneOf(char c, std::string_view set) {

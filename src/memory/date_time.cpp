@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <ctime>
 
+#include "environment/text.h"
 #include "memory/user_folders.h"
 
 namespace brimwork {
@@ -13,8 +14,6 @@ namespace {
 
 constexpr std::string_view kShape = "0000-00-00T00:00:00";
 constexpr std::size_t kDateSize = 10;
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool HasShape(std::string_view text) {
   if (text.size() != kShape.size() && text.size() != kDateSize) return false;

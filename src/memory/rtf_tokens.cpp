@@ -23,7 +23,6 @@ constexpr std::array<bool, 256> kIsText = TextBytes();
 
 bool IsText(char c) { return kIsText[static_cast<unsigned char>(c)]; }
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 int HexDigit(char c) {
   const char upper = ToUpperAscii(c);

@@ -2,13 +2,12 @@
 
 #include "environment/text.h"
 #include "environment/utf8.h"
+#include "spelling/apostrophes.h"
 
 namespace brimwork {
 namespace {
 
 constexpr char kMark = '&';
-constexpr std::string_view kPlainApostrophe = "'";
-constexpr std::string_view kTypographicApostrophe = "\u2019";
 
 /// The letter behind the mark of word, "" when there is none.
 std::string_view KeyOf(std::string_view word) {

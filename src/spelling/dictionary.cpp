@@ -41,10 +41,6 @@ TextCodec CodecOf(const DictionaryFiles& files, const std::string& encoding) {
   }
 }
 
-struct DestroyLibrary {
-  void operator()(Hunhandle* handle) const { Hunspell_destroy(handle); }
-};
-
 }  // namespace
 
 class Dictionary::Library {
@@ -80,7 +76,11 @@ class Dictionary::Library {
     }
   }
 
-  std::unique_ptr<Hunhandle, DestroyLibrary> handle_;
+  struct Destroy {
+    void operator()(Hunhandle* handle) const { Hunspell_destroy(handle); }
+  };
+
+  std::unique_ptr<Hunhandle, Destroy> handle_;
   TextCodec codec_;
 };
 

@@ -9,7 +9,6 @@
 namespace brimwork {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsHexDigit(char c) { return IsDigit(c) || (ToUpperAscii(c) >= 'A' && ToUpperAscii(c) <= 'F'); }
 
 bool StartsName(std::string_view text) {
@@ -24,7 +23,7 @@ bool IsAddress(std::string_view chunk) {
 }
 
 /// A slash inside ("and/or") joins words, one in front starts a path.
-bool IsPath(std::string_view chunk) {
+bool LooksLikePath(std::string_view chunk) {
   return Contains(chunk, "\\") || chunk.starts_with('/') || chunk.starts_with("./") ||
          chunk.starts_with("../") || chunk.starts_with("~/");
 }
@@ -53,7 +52,7 @@ bool IsHexNumber(std::string_view word) {
 
 bool IsTechnical(std::string_view chunk) {
   const std::string_view bare = TrimRight(TrimLeft(chunk, "'"), "'.:!?");
-  return IsAddress(bare) || IsPath(bare) || HoldsDottedName(bare) || IsGuid(bare);
+  return IsAddress(bare) || LooksLikePath(bare) || HoldsDottedName(bare) || IsGuid(bare);
 }
 
 bool IsCode(std::string_view text, std::size_t offset, std::size_t end) {

@@ -4,6 +4,7 @@
 
 #include "environment/text.h"
 #include "environment/utf8.h"
+#include "spelling/apostrophes.h"
 #include "spelling/letters.h"
 #include "spelling/technical_text.h"
 
@@ -13,10 +14,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n\v\f";
 /// None of them stands inside an address, a path or a name.
 constexpr std::string_view kSeparators = "\"<>|()[]{},;";
-constexpr std::string_view kTypographicApostrophe = "\u2019";
 constexpr std::string_view kNoBreakBlank = "\u00A0";
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// Size of the separator at the start of text, 0 when none stands there.
 std::size_t SeparatorSize(std::string_view text) {
