@@ -101,7 +101,7 @@ std::string ChangeSummary(const CodeLines& before, const CodeLines& after,
       changed += before.Line(stretch.before + i) != after.Line(stretch.after + i);
     }
   }
-  return Count(changed, "lines changed, ") + Count(after.Count() - kept, "added, ") +
+  return Count(changed, changed == 1 ? "line changed, " : "lines changed, ") + Count(after.Count() - kept, "added, ") +
          Count(before.Count() - kept, "removed");
 }
 

@@ -21,7 +21,7 @@ std::vector<std::string> WarningsOf(const SourceFile& file, ModuleSession& sessi
                                     const Allowance& allowance, const LinesAsRead& before,
                                     const Alignment& alignment);
 
-/// "12 lines changed, 3 added, 1 removed".
+/// "12 lines changed, 3 added, 1 removed"; "1 line changed, ..." for one.
 std::string ChangeSummary(const CodeLines& before, const CodeLines& after,
                           const Alignment& alignment);
 

@@ -37,6 +37,13 @@ TEST(Modes, WriteChangesTheFileAndSaysHowMuch) {
   EXPECT_EQ(place.Read("a.bas"), kIndented);
 }
 
+TEST(Modes, WriteSpeaksOfOneLineAsOne) {
+  Workplace place;
+  place.Write("a.bas", "Sub A()\nx = 1\nEnd Sub\n");
+  EXPECT_EQ(place.Run({"indent", "-w", "a.bas"}).error,
+            "a.bas: 1 line changed, 0 added, 0 removed\n");
+}
+
 TEST(Modes, CheckListsTheFilesThatWouldChangeAndExitsWith1) {
   Workplace place;
   place.Write("a.bas", kMessy);
