@@ -4,23 +4,13 @@
 
 #include "cli/command_request.h"
 #include "cli/near_miss.h"
+#include "cli/user_settings.h"
 #include "environment/text.h"
-#include "memory/json_settings_area.h"
-#include "memory/memory_environment.h"
-#include "memory/xdg_shell_folders.h"
 #include "settings/setting_keys.h"
 #include "settings/settings.h"
 
 namespace brimwork {
 namespace {
-
-/// An environment whose settings and folders are the user's own.
-struct UserSettings {
-  JsonSettingsArea area;
-  XdgShellFolders folders;
-  MemoryEnvironment memory;
-  Environment environment = memory.Parts({.settingsArea = &area, .shellFolders = &folders});
-};
 
 /// A value on one line, its line ends written as \n.
 std::string OnOneLine(std::string_view value) {

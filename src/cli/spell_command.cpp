@@ -1,9 +1,6 @@
 #include "cli/spell_command.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +10,7 @@
 
 #include "cli/run_inputs.h"
 #include "cli/spell_run.h"
+#include "cli/user_terminal.h"
 #include "environment/text.h"
 #include "settings/setting_keys.h"
 #include "spelling/user_words.h"
@@ -24,21 +22,6 @@ using Mode = SpellRun::Mode;
 
 constexpr std::string_view kCleanUp = "Code Clean Up";
 constexpr std::string_view kStep = "SpellCheck";
-
-// The user's terminal.
-
-bool UserIsThere() { return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1; }
-
-std::optional<std::string> ReadAnswer() {
-  std::string line;
-  if (!std::getline(std::cin, line)) return std::nullopt;
-  return line;
-}
-
-SpellTerminal TerminalOf(Console& console) {
-  return {[&console](const std::string& text) { console.Ask(text); }, ReadAnswer,
-          console.ColorsError()};
-}
 
 // The words.
 

@@ -1,7 +1,6 @@
 // Asks the user about one misspelled word after the other and keeps what is decided.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -9,20 +8,14 @@
 
 #include "cli/misspelled_word.h"
 #include "cli/spell_answers.h"
+#include "cli/user_terminal.h"
 #include "spelling/spelling_session.h"
 
 namespace brimwork {
 
-/// The user's terminal: what is shown, and what is typed.
-struct SpellTerminal {
-  std::function<void(const std::string& text)> show;
-  std::function<std::optional<std::string>()> readLine;  // nothing at the end of the input
-  bool color = false;
-};
-
 class SpellQuestions {
  public:
-  SpellQuestions(SpellingSession& session, SpellTerminal terminal)
+  SpellQuestions(SpellingSession& session, UserTerminal terminal)
       : session_(session), terminal_(std::move(terminal)) {}
 
   /// What takes the word's place, nothing when it stays. Asks until there is an answer, and not at
@@ -38,7 +31,7 @@ class SpellQuestions {
   void AddToUserWords(const std::string& word);
 
   SpellingSession& session_;
-  SpellTerminal terminal_;
+  UserTerminal terminal_;
   bool hasStopped_ = false;
 };
 

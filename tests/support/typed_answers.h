@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "cli/spell_questions.h"
+#include "cli/user_terminal.h"
 
 namespace brimwork {
 
@@ -14,7 +14,7 @@ struct TypedAnswers {
   std::deque<std::string> lines;
   std::string shown;
 
-  SpellTerminal Terminal() {
+  UserTerminal Terminal() {
     return {[this](const std::string& text) { shown += text; },
             [this]() -> std::optional<std::string> {
               if (lines.empty()) return std::nullopt;
