@@ -3,31 +3,17 @@
 #include <algorithm>
 #include <string_view>
 
+#include "cli/printable.h"
 #include "environment/text.h"
-#include "environment/utf8.h"
 
 namespace brimwork {
 namespace {
 
-constexpr int kColumns = 80;
 constexpr std::string_view kIndent = "    ";
 constexpr std::string_view kCut = "...";
 constexpr std::string_view kBold = "\x1b[1m";
 constexpr std::string_view kRed = "\x1b[31m";
 constexpr std::string_view kReset = "\x1b[m";
-
-/// Each character takes one column and moves nothing on the terminal.
-std::string Printable(std::string_view text) {
-  std::string printable;
-  while (!text.empty()) {
-    const std::size_t size = Utf8Size(text);
-    const char first = text[0];
-    const bool isPlain = size > 0 && static_cast<unsigned char>(first) >= ' ' && first != '\x7F';
-    printable += first == '\t' ? " " : isPlain ? text.substr(0, size) : "?";
-    text.remove_prefix(std::max<std::size_t>(size, 1));
-  }
-  return printable;
-}
 
 std::string FirstCharacters(const std::string& text, int count) {
   return text.substr(0, ByteOffset(text, count));
@@ -46,7 +32,7 @@ struct ShownLine {
 
 ShownLine FittedLine(const MisspelledWord& word) {
   constexpr int kCutSize = static_cast<int>(kCut.size());
-  const int width = kColumns - 1 - static_cast<int>(kIndent.size());
+  const int width = kTerminalColumns - 1 - static_cast<int>(kIndent.size());
   ShownLine shown{Printable(TrimLeft(word.before, " \t")), Printable(word.written),
                   Printable(word.behind)};
   if (CharacterCount(shown.word) > width) {
@@ -83,7 +69,7 @@ std::string NumberedSuggestions(const std::vector<std::string>& suggestions) {
   std::string line;
   for (std::size_t i = 0; i < suggestions.size(); ++i) {
     const std::string entry = "  " + std::to_string(i + 1) + ' ' + Printable(suggestions[i]);
-    if (!line.empty() && CharacterCount(line) + CharacterCount(entry) >= kColumns) {
+    if (!line.empty() && CharacterCount(line) + CharacterCount(entry) >= kTerminalColumns) {
       lines += line + '\n';
       line.clear();
     }
