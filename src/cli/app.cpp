@@ -13,9 +13,11 @@
 #include "cli/console.h"
 #include "cli/export_files.h"
 #include "cli/export_options.h"
+#include "cli/msgbox_command.h"
 #include "cli/near_miss.h"
 #include "cli/run_files.h"
 #include "cli/settings_command.h"
+#include "cli/setup_command.h"
 #include "cli/spell_command.h"
 
 namespace brimwork {
@@ -99,9 +101,11 @@ constexpr SubcommandText kFriendlyCommands[] = {
 struct ParsedLine {
   AppOptions options;
   ExportOptions exporting;
+  MsgBoxOptions msgBox;
   std::string caption;
   std::string settingKey;
   std::string settingValue;
+  bool setupDefaults = false;
 };
 
 void AddRun(CLI::App& app, ParsedLine& line) {
@@ -151,6 +155,21 @@ void AddExport(CLI::App& app, ParsedLine& line) {
       "Without --keywords, the words of the setting KeyWordList are coloured.");
 }
 
+void AddMsgBox(CLI::App& app, ParsedLine& line) {
+  CLI::App* command = app.add_subcommand("msgbox", "Print the code of a message box");
+  AddMsgBoxOptions(*command, line.msgBox);
+  command->footer(
+      "Examples:\n"
+      "  brimwork msgbox --text \"Save it?\" --buttons yes-no --icon question\n"
+      "  brimwork msgbox --text Done. --title Shop --icon information --timeout 5\n"
+      "  brimwork msgbox --text Stop? --captions Halt --add-to Shop.vbp\n"
+      "  brimwork msgbox --text Save? --buttons yes-no-cancel --captions ,Discard\n"
+      "\n"
+      "Sets: ok-only, ok-cancel, yes-no, yes-no-cancel, retry-cancel,\n"
+      "abort-retry-ignore. Icons: none, critical, exclamation, information, question.\n"
+      "Of the captions an empty one keeps the usual caption of its button.");
+}
+
 void AddSettings(CLI::App& app, ParsedLine& line) {
   CLI::App* settings = app.add_subcommand("settings", "List, read and store the settings");
   settings->require_subcommand(1);
@@ -177,6 +196,16 @@ void AddSettings(CLI::App& app, ParsedLine& line) {
   set->footer("Example: brimwork settings set SplashScreen False");
 }
 
+void AddSetup(CLI::App& app, ParsedLine& line) {
+  CLI::App* setup = app.add_subcommand("setup", "Ask for each setting of the setup dialog");
+  setup->add_flag("--defaults", line.setupDefaults, "Ask nothing, store what the dialog shows");
+  setup->footer(
+      "Example: brimwork setup --defaults\n"
+      "\n"
+      "Asks at a terminal; Enter keeps a setting. All of them are stored behind the\n"
+      "last answer. When the answers end before that, or with Ctrl+C, none is.");
+}
+
 void DefineCommandLine(CLI::App& app, ParsedLine& line) {
   app.description(kDescription);
   app.footer(kExamples);
@@ -186,9 +215,11 @@ void DefineCommandLine(CLI::App& app, ParsedLine& line) {
   AddRun(app, line);
   for (const SubcommandText& text : kFriendlyCommands) AddFriendlyCommand(app, line, text);
   AddExport(app, line);
+  AddMsgBox(app, line);
   app.add_subcommand("commands", "List every command of the catalogue")
       ->footer("Example: brimwork commands");
   AddSettings(app, line);
+  AddSetup(app, line);
 }
 
 void RunSettings(const CLI::App& settings, const ParsedLine& line, Console& console) {
@@ -216,6 +247,10 @@ int RunSubcommand(const CLI::App& app, const ParsedLine& line, Console& console)
     RunSettings(subcommand, line, console);
     return exit_code::kDone;
   }
+  if (name == "setup") {
+    return line.setupDefaults ? StoreShownSettings(console) : AskForSettings(console);
+  }
+  if (name == "msgbox") return PrintMsgBox(line.msgBox, console);
   if (name == "export") {
     return ExportFiles(MakeExportRequest(line.options, line.exporting), console);
   }
@@ -259,7 +294,8 @@ int RunApp(int argc, const char* const* argv) {
   } catch (const CLI::ParseError& error) {
     return TellParseError(app, error, argc > 1 ? argv[1] : "", plain);
   }
-  Console console(line.options.color, line.options.quiet, line.options.verbose);
+  Console console(line.options.color, line.options.quiet || line.msgBox.quiet,
+                  line.options.verbose);
   try {
     return RunSubcommand(app, line, console);
   } catch (const std::exception& error) {

@@ -33,6 +33,8 @@ constexpr FriendlyName kFriendlyNames[] = {
     {"export --format rtf", "RTF"},
     {"export --format html", "Web Page"},
     {"export --quick", "Quick Export"},
+    {"msgbox", "MsgBox Creator"},
+    {"setup", "Configure Brimwork"},
 };
 
 /// What these change are windows of the editor, and no module's text.
@@ -83,7 +85,10 @@ void CheckResult(std::string_view caption) {
                      " acts on the environment's windows, and the command line has none");
   }
   if (IsAmong(kOpeningCommands, caption)) {
-    throw UsageError(Quoted(caption) + " opens a window, and the command line has none");
+    const std::string_view name = CommandNameOf(caption);
+    throw UsageError(Quoted(caption) + " opens a window" +
+                     (name.empty() ? ", and the command line has none"
+                                   : ": run brimwork " + std::string(name)));
   }
 }
 
@@ -120,7 +125,8 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
 bool IsExport(std::string_view caption) { return CommandNameOf(caption).starts_with("export "); }
 
 bool NeedsTheEditor(std::string_view caption) {
-  return IsAmong(kWindowCommands, caption) || IsAmong(kOpeningCommands, caption);
+  return IsAmong(kWindowCommands, caption) ||
+         (IsAmong(kOpeningCommands, caption) && CommandNameOf(caption).empty());
 }
 
 std::string_view CaptionOf(std::string_view commandName) {

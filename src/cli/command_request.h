@@ -37,7 +37,8 @@ CommandRequest MakeCommandRequest(std::string_view caption, const PlaceRequest& 
 /// True for the commands that make another file of the module, which brimwork export runs.
 bool IsExport(std::string_view caption);
 
-/// True for the commands on the environment's windows, and for those that open a window.
+/// True for the commands on the environment's windows, and for those that open a window and have no
+/// counterpart on the command line.
 bool NeedsTheEditor(std::string_view caption);
 
 /// The caption that a friendly command name stands for, "" for none.

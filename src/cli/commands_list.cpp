@@ -28,6 +28,8 @@ std::string_view WorksOn(std::string_view caption) {
   if (caption == "Standard Header" || caption == "Adapted Header") return "module";
   if (caption == kSpellCheckCaption) return "module";
   if (caption == "Insert Time Stamp") return "line";
+  if (caption == "MsgBox Creator") return "a new message box";
+  if (caption == "Configure Brimwork") return "the settings";
   if (IsExport(caption)) return "module or lines";
   if (NeedsTheEditor(caption)) return "in the editor only";
   if (onModule && atPlace) return "module or procedure";

@@ -56,8 +56,9 @@ TEST(CommandsTable, SaysWhatEachCommandWorksOn) {
   EXPECT_EQ(RowOf("RTF"), "RTF|module or lines|export --format rtf");
   EXPECT_EQ(RowOf("Quick Export"), "Quick Export|module or lines|export --quick");
   EXPECT_EQ(RowOf("Full Screen"), "Full Screen|in the editor only");
-  for (const std::string caption : {"MsgBox Creator", "Contents", "Index", "Configure Brimwork",
-                                    "About Brimwork", "Vantrel Web Site"}) {
+  EXPECT_EQ(RowOf("MsgBox Creator"), "MsgBox Creator|a new message box|msgbox");
+  EXPECT_EQ(RowOf("Configure Brimwork"), "Configure Brimwork|the settings|setup");
+  for (const std::string caption : {"Contents", "Index", "About Brimwork", "Vantrel Web Site"}) {
     EXPECT_EQ(RowOf(caption), caption + "|in the editor only");
   }
 }

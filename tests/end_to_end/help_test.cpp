@@ -25,12 +25,14 @@ const std::vector<Words>& AllSubcommands() {
                                               {"timestamp"},
                                               {"spell"},
                                               {"export"},
+                                              {"msgbox"},
                                               {"commands"},
                                               {"settings"},
                                               {"settings", "list"},
                                               {"settings", "get"},
                                               {"settings", "set"},
-                                              {"settings", "path"}};
+                                              {"settings", "path"},
+                                              {"setup"}};
   return subcommands;
 }
 
