@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cli/project_lines.h"
 #include "environment/text.h"
 #include "memory/disk_file.h"
 #include "memory/listed_path.h"
+#include "memory/project_lines.h"
 #include "memory/source_error.h"
 #include "memory/source_file.h"
 

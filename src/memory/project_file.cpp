@@ -6,7 +6,7 @@
 #include "environment/text.h"
 #include "memory/disk_file.h"
 #include "memory/listed_path.h"
-#include "memory/raw_line.h"
+#include "memory/project_lines.h"
 #include "memory/source_text.h"
 
 namespace brimwork {
@@ -14,8 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kModuleKeys[] = {
-    "Module", "Class", "Form", "UserControl", "PropertyPage", "UserDocument", "Designer"};
 constexpr std::string_view kGroupKeys[] = {"StartupProject", "Project"};
 constexpr std::string_view kSourceExtensions[] = {".bas", ".cls", ".frm", ".ctl",
                                                   ".pag", ".dob", ".dsr"};
@@ -26,46 +24,12 @@ bool IsAmong(std::string_view name, const Names& names) {
                      [name](std::string_view each) { return EqualNames(each, name); });
 }
 
-struct KeyLine {
-  std::string_view key;
-  std::string_view value;
-  int line;
-};
-
-/// Calls visit for each `key=value` line above the first [section]: what stands in sections
-/// belongs to other tools.
-template <typename Visit>
-void ForEachKey(std::string_view text, Visit visit) {
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
-  for (int number = 1; !text.empty(); ++number) {
-    const std::string_view line = TrimBlanksAndTabs(TakeLine(text).text);
-    if (line.starts_with('[')) return;
-    const auto equals = line.find('=');
-    if (equals == std::string_view::npos) continue;
-    visit(KeyLine{TrimBlanksAndTabs(line.substr(0, equals)),
-                  TrimBlanksAndTabs(line.substr(equals + 1)), number});
-  }
-}
-
-std::string_view Unquoted(std::string_view value) {
-  if (value.size() < 2 || !value.starts_with('"') || !value.ends_with('"')) return value;
-  return value.substr(1, value.size() - 2);
-}
-
-/// The path in `Name; path` or `path`.
-std::string_view PathIn(std::string_view value) {
-  value = Unquoted(value);
-  const auto semicolon = value.find(';');
-  if (semicolon != std::string_view::npos) value.remove_prefix(semicolon + 1);
-  return Unquoted(TrimBlanksAndTabs(value));
-}
-
 fs::path FolderOf(const std::string& path) { return fs::path(path).parent_path(); }
 
-ListedFile Listed(const KeyLine& line, const fs::path& folder) {
-  const std::string_view listedAs = PathIn(line.value);
+ListedFile Listed(const ProjectLine& line, const fs::path& folder) {
+  const std::string_view listedAs = ComponentIn(line.value).file;
   const ResolvedPath resolved = ResolveListedPath(folder, listedAs);
-  return {std::string(listedAs), resolved.path.string(), resolved.outside, line.line};
+  return {std::string(listedAs), resolved.path.string(), resolved.outside, line.number};
 }
 
 std::string ReadText(const std::string& path, const std::string& encoding) {
@@ -74,9 +38,9 @@ std::string ReadText(const std::string& path, const std::string& encoding) {
 
 std::string NameIn(std::string_view text, const std::string& path) {
   std::string name;
-  ForEachKey(text, [&](const KeyLine& line) {
+  for (const ProjectLine& line : ProjectLinesOf(text)) {
     if (EqualNames(line.key, "Name")) name = Unquoted(line.value);
-  });
+  }
   return name.empty() ? fs::path(path).stem().string() : name;
 }
 
@@ -95,15 +59,14 @@ std::vector<std::string> ProjectsIn(const fs::path& folder) {
 
 bool NamesFile(std::string_view text, const fs::path& folder, const fs::path& source) {
   const std::string fileName = source.filename().string();
-  bool found = false;
-  ForEachKey(text, [&](const KeyLine& line) {
-    if (found || !IsAmong(line.key, kModuleKeys)) return;
+  const auto names = [&](const ProjectLine& line) {
+    if (!NamesComponent(line)) return false;
     // Looking for a file on the disk costs more than comparing names.
-    if (!EqualNames(ListedFileName(PathIn(line.value)), fileName)) return;
+    if (!EqualNames(ListedFileName(ComponentIn(line.value).file), fileName)) return false;
     std::error_code ignored;
-    found = fs::equivalent(Listed(line, folder).path, source, ignored);
-  });
-  return found;
+    return fs::equivalent(Listed(line, folder).path, source, ignored);
+  };
+  return std::ranges::any_of(ProjectLinesOf(text), names);
 }
 
 class SourceFileSearch {
@@ -153,18 +116,18 @@ Project ReadProject(const std::string& path, const std::string& encoding) {
   const std::string text = ReadText(path, encoding);
   Project project{NameIn(text, path), path, {}};
   const fs::path folder = FolderOf(path);
-  ForEachKey(text, [&](const KeyLine& line) {
-    if (IsAmong(line.key, kModuleKeys)) project.modules.push_back(Listed(line, folder));
-  });
+  for (const ProjectLine& line : ProjectLinesOf(text)) {
+    if (NamesComponent(line)) project.modules.push_back(Listed(line, folder));
+  }
   return project;
 }
 
 std::vector<ListedFile> ReadProjectGroup(const std::string& path, const std::string& encoding) {
   const std::string text = ReadText(path, encoding);
   std::vector<ListedFile> projects;
-  ForEachKey(text, [&](const KeyLine& line) {
+  for (const ProjectLine& line : ProjectLinesOf(text)) {
     if (IsAmong(line.key, kGroupKeys)) projects.push_back(Listed(line, FolderOf(path)));
-  });
+  }
   return projects;
 }
 

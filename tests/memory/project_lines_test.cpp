@@ -1,4 +1,4 @@
-#include "cli/project_lines.h"
+#include "memory/project_lines.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
