@@ -3,8 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/app_options.h"
@@ -108,44 +110,41 @@ struct ParsedLine {
   bool setupDefaults = false;
 };
 
-void AddRun(CLI::App& app, ParsedLine& line) {
-  CLI::App* run = app.add_subcommand("run", "Run a command by its caption");
-  run->add_option("caption", line.caption, "Caption, as \"brimwork commands\" lists it")
+void DefineRun(CLI::App& run, ParsedLine& line) {
+  run.add_option("caption", line.caption, "Caption, as \"brimwork commands\" lists it")
       ->required()
       ->option_text("CAPTION");
-  AddRunOptions(*run, line.options);
-  AddPlaceOptions(*run, line.options);
-  run->footer(
+  AddRunOptions(run, line.options);
+  AddPlaceOptions(run, line.options);
+  run.footer(
       "Examples:\n"
       "  brimwork run \"Indent All Procedures\" Module1.bas\n"
       "  brimwork run \"Add Line Numbers\" --procedure Main --write Module1.bas");
 }
 
-void AddFriendlyCommand(CLI::App& app, ParsedLine& line, const SubcommandText& text) {
-  CLI::App* command = app.add_subcommand(text.name, text.description);
-  AddRunOptions(*command, line.options);
+void DefineFriendlyCommand(CLI::App& command, ParsedLine& line, const SubcommandText& text) {
+  AddRunOptions(command, line.options);
   const std::string name = text.name;
   if (name == "header") {
-    command->add_flag("--adapted", line.options.adapted, "The header for adapted code");
+    command.add_flag("--adapted", line.options.adapted, "The header for adapted code");
   } else if (name == "cleanup") {
-    command->add_option("--steps", line.options.steps, "Steps of this run, joined by commas")
+    command.add_option("--steps", line.options.steps, "Steps of this run, joined by commas")
         ->option_text("STEP,...");
-    AddSpellOptions(*command, line.options.spelling);
+    AddSpellOptions(command, line.options.spelling);
   } else if (name == "spell") {
-    AddListOption(*command, line.options.spelling);
-    AddSpellOptions(*command, line.options.spelling);
+    AddListOption(command, line.options.spelling);
+    AddSpellOptions(command, line.options.spelling);
   } else if (name == "timestamp") {
-    AddLineOptions(*command, line.options);
+    AddLineOptions(command, line.options);
   } else if (name != "indent") {
-    AddPlaceOptions(*command, line.options);
+    AddPlaceOptions(command, line.options);
   }
-  command->footer(text.examples);
+  command.footer(text.examples);
 }
 
-void AddExport(CLI::App& app, ParsedLine& line) {
-  CLI::App* command = app.add_subcommand("export", "Export code as text, rich text or web page");
-  AddExportOptions(*command, line.options, line.exporting);
-  command->footer(
+void DefineExport(CLI::App& command, ParsedLine& line) {
+  AddExportOptions(command, line.options, line.exporting);
+  command.footer(
       "Examples:\n"
       "  brimwork export --format html --keywords builtin Module1.bas > Module1.htm\n"
       "  brimwork export --format rtf --lines 10:25 -o part.rtf Module1.bas\n"
@@ -155,10 +154,9 @@ void AddExport(CLI::App& app, ParsedLine& line) {
       "Without --keywords, the words of the setting KeyWordList are coloured.");
 }
 
-void AddMsgBox(CLI::App& app, ParsedLine& line) {
-  CLI::App* command = app.add_subcommand("msgbox", "Print the code of a message box");
-  AddMsgBoxOptions(*command, line.msgBox);
-  command->footer(
+void DefineMsgBox(CLI::App& command, ParsedLine& line) {
+  AddMsgBoxOptions(command, line.msgBox);
+  command.footer(
       "Examples:\n"
       "  brimwork msgbox --text \"Save it?\" --buttons yes-no --icon question\n"
       "  brimwork msgbox --text Done. --title Shop --icon information --timeout 5\n"
@@ -170,23 +168,22 @@ void AddMsgBox(CLI::App& app, ParsedLine& line) {
       "Of the captions an empty one keeps the usual caption of its button.");
 }
 
-void AddSettings(CLI::App& app, ParsedLine& line) {
-  CLI::App* settings = app.add_subcommand("settings", "List, read and store the settings");
-  settings->require_subcommand(1);
-  settings->footer(
+void DefineSettings(CLI::App& settings, ParsedLine& line) {
+  settings.require_subcommand(1);
+  settings.footer(
       "Examples:\n"
       "  brimwork settings list\n"
       "  brimwork settings set CleanUpCodeOptions Indent,Comment");
-  settings->add_subcommand("list", "Every key with its value")
+  settings.add_subcommand("list", "Every key with its value")
       ->footer("Example: brimwork settings list");
-  settings->add_subcommand("path", "The file that holds the settings")
+  settings.add_subcommand("path", "The file that holds the settings")
       ->footer("Example: brimwork settings path");
-  CLI::App* get = settings->add_subcommand("get", "The value of a key");
+  CLI::App* get = settings.add_subcommand("get", "The value of a key");
   get->add_option("key", line.settingKey, "As settings list names it")
       ->required()
       ->option_text("KEY");
   get->footer("Example: brimwork settings get Separator");
-  CLI::App* set = settings->add_subcommand("set", "Store the value of a key");
+  CLI::App* set = settings.add_subcommand("set", "Store the value of a key");
   set->add_option("key", line.settingKey, "As settings list names it")
       ->required()
       ->option_text("KEY");
@@ -196,14 +193,23 @@ void AddSettings(CLI::App& app, ParsedLine& line) {
   set->footer("Example: brimwork settings set SplashScreen False");
 }
 
-void AddSetup(CLI::App& app, ParsedLine& line) {
-  CLI::App* setup = app.add_subcommand("setup", "Ask for each setting of the setup dialog");
-  setup->add_flag("--defaults", line.setupDefaults, "Ask nothing, store what the dialog shows");
-  setup->footer(
+void DefineSetup(CLI::App& setup, ParsedLine& line) {
+  setup.add_flag("--defaults", line.setupDefaults, "Ask nothing, store what the dialog shows");
+  setup.footer(
       "Example: brimwork setup --defaults\n"
       "\n"
       "Asks at a terminal; Enter keeps a setting. All of them are stored behind the\n"
       "last answer. When the answers end before that, or with Ctrl+C, none is.");
+}
+
+/// The options of the one subcommand that is asked for are defined when it has been named: those of
+/// all of them take longer than a small file.
+void AddSubcommand(CLI::App& app, const char* name, const char* description,
+                   std::function<void(CLI::App&)> define) {
+  CLI::App* const command = app.add_subcommand(name, description);
+  command->preparse_callback([command, define = std::move(define)](std::size_t) {
+    define(*command);
+  });
 }
 
 void DefineCommandLine(CLI::App& app, ParsedLine& line) {
@@ -212,14 +218,22 @@ void DefineCommandLine(CLI::App& app, ParsedLine& line) {
   app.set_version_flag("--version", "brimwork " BRIMWORK_VERSION);
   app.require_subcommand(1);
   app.get_formatter()->column_width(kHelpColumn);
-  AddRun(app, line);
-  for (const SubcommandText& text : kFriendlyCommands) AddFriendlyCommand(app, line, text);
-  AddExport(app, line);
-  AddMsgBox(app, line);
+  AddSubcommand(app, "run", "Run a command by its caption",
+                [&](CLI::App& command) { DefineRun(command, line); });
+  for (const SubcommandText& text : kFriendlyCommands) {
+    AddSubcommand(app, text.name, text.description,
+                  [&](CLI::App& command) { DefineFriendlyCommand(command, line, text); });
+  }
+  AddSubcommand(app, "export", "Export code as text, rich text or web page",
+                [&](CLI::App& command) { DefineExport(command, line); });
+  AddSubcommand(app, "msgbox", "Print the code of a message box",
+                [&](CLI::App& command) { DefineMsgBox(command, line); });
   app.add_subcommand("commands", "List every command of the catalogue")
       ->footer("Example: brimwork commands");
-  AddSettings(app, line);
-  AddSetup(app, line);
+  AddSubcommand(app, "settings", "List, read and store the settings",
+                [&](CLI::App& command) { DefineSettings(command, line); });
+  AddSubcommand(app, "setup", "Ask for each setting of the setup dialog",
+                [&](CLI::App& command) { DefineSetup(command, line); });
 }
 
 void RunSettings(const CLI::App& settings, const ParsedLine& line, Console& console) {

@@ -1,6 +1,7 @@
 // Questions asked of every line of a module, answered eight bytes at a time.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -33,6 +34,24 @@ bool AnyWord(std::string_view text, IsMarked isMarked) {
   }
   std::memcpy(&word, text.data() + text.size() - sizeof word, sizeof word);
   return isMarked(word) != 0;
+}
+
+/// How many bytes stand in front of the first sought one, which there is. Up to seven bytes behind
+/// that one are read.
+template <char sought>
+std::size_t SizeWithout(const char* text) {
+  std::size_t size = 0;
+  if constexpr (std::endian::native == std::endian::little) {
+    std::uint64_t word;
+    std::uint64_t marks;
+    for (;; size += sizeof word) {
+      std::memcpy(&word, text + size, sizeof word);
+      marks = HasZeroByte(word ^ Repeated(sought));
+      if (marks != 0) return size + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+    }
+  }
+  while (text[size] != sought) ++size;
+  return size;
 }
 
 }  // namespace byte_words

@@ -67,8 +67,8 @@ class RichTextBox {
   virtual int LineIndexOfCaret() = 0;
   /// Length of the line that holds the position, without its line end.
   virtual int LineLength(int position) = 0;
-  /// A line without its line end; "" when there is no such line.
-  virtual std::string Line(int line) = 0;
+  /// Puts a line, without its line end, into text; "" when there is no such line.
+  virtual void ReadLine(int line, std::string& text) = 0;
 };
 
 class RichTextBoxes {

@@ -6,11 +6,12 @@ int GetLineCount(RichTextBox& editor) { return editor.LineCount(); }
 
 int GetCurrentLineStart(RichTextBox& editor) { return editor.LineIndexOfCaret(); }
 
-std::string GetCurrentLine(RichTextBox& editor) {
-  const int line = editor.LineFromCaret();
-  if (editor.LineIndexOfCaret() == -1) return {};
-  if (editor.LineLength(editor.SelStart()) < 1) return {};
-  return editor.Line(line);
+void GetCurrentLine(RichTextBox& editor, std::string& line) {
+  line.clear();
+  const int number = editor.LineFromCaret();
+  if (editor.LineIndexOfCaret() == -1) return;
+  if (editor.LineLength(editor.SelStart()) < 1) return;
+  editor.ReadLine(number, line);
 }
 
 }  // namespace brimwork

@@ -13,7 +13,7 @@ int GetLineCount(RichTextBox& editor);
 /// The position, in characters from 0, at which the caret's line starts.
 int GetCurrentLineStart(RichTextBox& editor);
 
-/// The text of the caret's line without its line end.
-std::string GetCurrentLine(RichTextBox& editor);
+/// Puts the text of the caret's line, without its line end, into line.
+void GetCurrentLine(RichTextBox& editor, std::string& line);
 
 }  // namespace brimwork

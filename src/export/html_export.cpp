@@ -15,8 +15,10 @@ void WriteLines(const ExportTools& tools, RichTextBox& editor, KeywordList& keyw
   HtmlLines lines(keywords);
   const int count = GetLineCount(editor);
   editor.SetSelStart(1);
+  std::string line;
   for (int i = 1; i <= count; ++i) {
-    const std::string line = GetCurrentLine(editor) + ' ';
+    GetCurrentLine(editor, line);
+    line += ' ';
     file.PrintLine(lines.Convert(line));
     // One character into the next line: the line's blank is not in the control, its CR LF is.
     editor.SetSelStart(GetCurrentLineStart(editor) + CharacterCount(line) + 2);

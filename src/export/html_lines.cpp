@@ -1,8 +1,6 @@
 #include "export/html_lines.h"
 
-#include <array>
-
-#include "environment/text.h"
+#include "environment/byte_words.h"
 
 namespace brimwork {
 namespace {
@@ -11,85 +9,98 @@ constexpr std::string_view kKeywordOpenTag = "<font color=\"#000080\">";
 constexpr std::string_view kCommentOpenTag = "<font color=\"#008000\">";
 constexpr std::string_view kCloseTag = "</font>";
 
-/// Where the characters from at on end that go into a word as they are.
-std::size_t PlainEnd(std::string_view line, std::size_t at) {
-  static constexpr auto kIsPlain = [] {
-    std::array<bool, 256> isPlain{};
-    for (std::size_t c = 0; c < isPlain.size(); ++c) {
-      isPlain[c] = !IsOneOf(static_cast<char>(c), " \"&<>");
-    }
-    return isPlain;
-  }();
-  while (at < line.size() && kIsPlain[static_cast<unsigned char>(line[at])]) ++at;
-  return at;
+/// Where the word that starts at a place ends: at the next blank, which there is.
+std::size_t WordEnd(const PaddedText& line, std::size_t start) {
+  return start + byte_words::SizeWithout<' '>(line.Data() + start);
 }
 
 }  // namespace
 
 std::string_view HtmlLines::Convert(std::string_view line) {
-  outLine_.clear();
-  wordStart_ = 0;
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    const std::size_t end = PlainEnd(line, at);
-    AddToWord(line.substr(at, end - at));
-    at = end;
-    if (at == line.size()) break;
-    if (line[at] == ' ') {
-      CloseWord();
+  line_.Clear();
+  line_.Append(line);
+  needsEscapes_ = ContainsOneOf<'"', '&', '<', '>'>(line);
+  outLine_.Clear();
+  for (std::size_t at = 0; at < line.size();) {
+    if (inComment_) {
+      at = TakeRest(at);
+    } else if (line[at] == ' ') {
+      at = TakeBlanks(at);
     } else {
-      AddEscaped(line[at]);
+      at = TakeWord(at);
     }
   }
   EndComment();
-  return outLine_;
+  return outLine_.View();
+}
+
+std::size_t HtmlLines::TakeWord(std::size_t start) {
+  const std::size_t end = WordEnd(line_, start);
+  CloseWord(Gathered(line_.View().substr(start, end - start)));
+  return end + 1;
+}
+
+/// Each blank closes an empty word. One empty word behind another changes nothing more.
+std::size_t HtmlLines::TakeBlanks(std::size_t start) {
+  CloseWord(line_.View().substr(start, 0));
+  std::size_t at = start + 1;
+  for (; at < line_.Size() && line_.Data()[at] == ' '; ++at) outLine_.Append(' ');
+  return at;
+}
+
+/// In a comment the words make no difference any more.
+std::size_t HtmlLines::TakeRest(std::size_t start) {
+  outLine_.Append(Gathered(line_.View().substr(start)));
+  return line_.Size();
+}
+
+/// The word as it is gathered, character by character.
+std::string_view HtmlLines::Gathered(std::string_view word) {
+  if (!needsEscapes_) return word;
+  word_.Clear();
+  for (const char c : word) AddEscaped(c);
+  return word_.View();
 }
 
 void HtmlLines::AddEscaped(char c) {
   switch (c) {
     case '"':
       inString_ = !inString_;
-      outLine_ += "&quot;";
-      break;
+      return word_.Append("&quot;");
     case '&':
-      outLine_ += "&amp;";
-      break;
+      return word_.Append("&amp;");
     case '<':
-      outLine_ += "&lt;";
-      break;
+      return word_.Append("&lt;");
     case '>':
-      outLine_ += "&gt;";
-      break;
+      return word_.Append("&gt;");
+    default:
+      return word_.Append(c);
   }
 }
 
-void HtmlLines::CloseWord() {
-  if (Word().starts_with('\'')) OpenComment();
-  if (!inComment_) ColorKeyword();
-  outLine_ += ' ';
-  wordStart_ = outLine_.size();
-}
-
-void HtmlLines::PutBeforeWord(std::string_view tag) {
-  outLine_.insert(wordStart_, tag);
-  wordStart_ += tag.size();
+void HtmlLines::CloseWord(std::string_view word) {
+  if (word.starts_with('\'')) OpenComment();
+  if (!inComment_) ColorKeyword(word);
+  outLine_.AppendPadded(word);
+  outLine_.Append(' ');
 }
 
 void HtmlLines::OpenComment() {
-  if (keywordOpen_) PutBeforeWord(kCloseTag);
+  if (keywordOpen_) outLine_.Append(kCloseTag);
   keywordOpen_ = false;
-  if (!inComment_) PutBeforeWord(kCommentOpenTag);
+  if (!inComment_) outLine_.Append(kCommentOpenTag);
   inComment_ = true;
 }
 
-void HtmlLines::ColorKeyword() {
-  const bool isKeyword = !inString_ && keywords_.Holds(Word());
+void HtmlLines::ColorKeyword(std::string_view word) {
+  const bool isKeyword = !inString_ && keywords_.Holds(word);
   if (isKeyword == keywordOpen_) return;
-  PutBeforeWord(isKeyword ? kKeywordOpenTag : kCloseTag);
+  outLine_.Append(isKeyword ? kKeywordOpenTag : kCloseTag);
   keywordOpen_ = isKeyword;
 }
 
 void HtmlLines::EndComment() {
-  if (inComment_) outLine_ += kCloseTag;
+  if (inComment_) outLine_.Append(kCloseTag);
   inComment_ = false;
 }
 

@@ -1,10 +1,10 @@
 // Turns lines of code into lines of a web page, one after the other.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "export/keyword_list.h"
+#include "export/padded_text.h"
 
 namespace brimwork {
 
@@ -18,18 +18,21 @@ class HtmlLines {
   std::string_view Convert(std::string_view line);
 
  private:
-  void AddToWord(std::string_view plain) { outLine_ += plain; }
+  std::size_t TakeWord(std::size_t start);
+  std::size_t TakeBlanks(std::size_t start);
+  std::size_t TakeRest(std::size_t start);
+  std::string_view Gathered(std::string_view word);
   void AddEscaped(char c);
-  void CloseWord();
-  void PutBeforeWord(std::string_view tag);
-  std::string_view Word() const { return std::string_view(outLine_).substr(wordStart_); }
+  void CloseWord(std::string_view word);
   void OpenComment();
-  void ColorKeyword();
+  void ColorKeyword(std::string_view word);
   void EndComment();
 
   KeywordList& keywords_;
-  std::string outLine_;  // ends in the word that is being gathered, escaped
-  std::size_t wordStart_ = 0;
+  PaddedText line_;
+  bool needsEscapes_ = false;  // somewhere in line_
+  PaddedText word_;            // the word that is being gathered, where it needs escapes
+  PaddedText outLine_;
   bool inComment_ = false;
   bool keywordOpen_ = false;
   bool inString_ = false;

@@ -20,10 +20,16 @@ int PositionIn(std::string_view text, std::string_view word, int nowhere) {
 
 }  // namespace
 
-KeywordList::KeywordList(std::string text)
-    : text_(std::move(text)), upperCase_(UpperCaseAscii(text_)) {
-  for (const char c : text_) holdsByte_[static_cast<unsigned char>(c)] = true;
+KeywordList::Pairs::Pairs(std::string_view text) {
+  for (const char c : text) single_.set(Byte(c));
+  for (std::size_t i = 1; i < text.size(); ++i) pairs_.set(Index(text[i - 1], text[i]));
 }
+
+KeywordList::KeywordList(std::string text)
+    : text_(std::move(text)),
+      upperCase_(UpperCaseAscii(text_)),
+      pairs_(text_),
+      upperCasePairs_(upperCase_) {}
 
 int KeywordList::PositionOf(std::string_view word) {
   return exact_.Of(word,

@@ -37,16 +37,13 @@ void CharacterPositions::Reset(std::string_view text) {
   last_ = {};
 }
 
-std::size_t CharacterPositions::ByteOf(std::string_view text, int position) const {
-  const auto target = static_cast<std::size_t>(position);
-  if (IsAscii(text)) return target;
+std::size_t CharacterPositions::SearchByte(std::string_view text, std::size_t target) const {
   const Place from = Nearest(text, &Place::position, target);
   last_ = from.position <= target ? Forward(text, from, target) : Backward(text, from, target);
   return last_.byte;
 }
 
-int CharacterPositions::PositionOf(std::string_view text, std::size_t byte) const {
-  if (IsAscii(text)) return static_cast<int>(byte);
+std::size_t CharacterPositions::SearchPosition(std::string_view text, std::size_t byte) const {
   Place place = Nearest(text, &Place::byte, byte);
   if (place.byte <= byte) {
     const std::string_view between = text.substr(place.byte, byte - place.byte);
@@ -56,7 +53,7 @@ int CharacterPositions::PositionOf(std::string_view text, std::size_t byte) cons
     place.position -= CharactersOf(between);
   }
   last_ = {byte, place.position};
-  return static_cast<int>(place.position);
+  return place.position;
 }
 
 void CharacterPositions::Replace(std::string_view text, std::size_t start, std::size_t end,

@@ -16,10 +16,15 @@ class CharacterPositions {
   int Count() const { return static_cast<int>(count_); }
 
   /// Byte at which a character starts, or the text's end; position is at most Count().
-  std::size_t ByteOf(std::string_view text, int position) const;
+  std::size_t ByteOf(std::string_view text, int position) const {
+    const auto target = static_cast<std::size_t>(position);
+    return IsAscii(text) ? target : SearchByte(text, target);
+  }
 
   /// Number of characters in front of the byte at which one starts.
-  int PositionOf(std::string_view text, std::size_t byte) const;
+  int PositionOf(std::string_view text, std::size_t byte) const {
+    return static_cast<int>(IsAscii(text) ? byte : SearchPosition(text, byte));
+  }
 
   /// Bytes of the text are about to be replaced by others.
   void Replace(std::string_view text, std::size_t start, std::size_t end, std::string_view added);
@@ -31,6 +36,8 @@ class CharacterPositions {
   };
 
   bool IsAscii(std::string_view text) const { return count_ == text.size(); }
+  std::size_t SearchByte(std::string_view text, std::size_t target) const;
+  std::size_t SearchPosition(std::string_view text, std::size_t byte) const;
   Place Nearest(std::string_view text, std::size_t Place::*measure, std::size_t target) const;
 
   static Place Forward(std::string_view text, Place place, std::size_t position);

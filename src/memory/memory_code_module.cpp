@@ -37,10 +37,7 @@ std::string MemoryCodeModule::Lines(int startLine, int count) {
   CheckLine(startLine);
   const int endLine = count > text_.Count() - startLine ? text_.Count() : startLine + count - 1;
   if (startLine > endLine) return {};
-  std::string lines(text_.Line(startLine));
-  for (int line = startLine + 1; line <= endLine; ++line)
-    lines.append("\r\n").append(text_.Line(line));
-  return lines;
+  return text_.Joined(startLine, endLine);
 }
 
 void MemoryCodeModule::ReadLine(int line, std::string& text) {

@@ -15,14 +15,6 @@ void MemoryRichTextBox::SetText(std::string_view text) {
   selection_ = {};
 }
 
-void MemoryRichTextBox::SetSelStart(int position) {
-  selection_ = {std::clamp(position, 0, Content().Size()), 0};
-}
-
-void MemoryRichTextBox::SetSelLength(int length) {
-  selection_.length = std::clamp(length, 0, Content().Size() - selection_.start);
-}
-
 void MemoryRichTextBox::SetSelText(std::string_view text) {
   selection_ = {Edited().Replace(selection_, text), 0};
 }
@@ -51,23 +43,17 @@ void MemoryRichTextBox::SaveFile(std::string_view path, SaveAs type) {
   }
 }
 
-const RichText& MemoryRichTextBox::Content() const {
-  if (unread_) content_ = ReadRtf(*std::exchange(unread_, nullptr));
-  return content_;
-}
-
-RichText& MemoryRichTextBox::Edited() {
-  Content();
-  return content_;
+void MemoryRichTextBox::ReadUnread() const {
+  content_ = ReadRtf(*std::exchange(unread_, nullptr));
 }
 
 int MemoryRichTextBox::LineLength(int position) {
   return CharacterCount(Content().Line(Content().LineAt(position)));
 }
 
-std::string MemoryRichTextBox::Line(int line) {
-  if (line < 0 || line >= LineCount()) return {};
-  return std::string(Content().Line(line));
+void MemoryRichTextBox::ReadLine(int line, std::string& text) {
+  const bool isThere = line >= 0 && line < LineCount();
+  text = isThere ? Content().Line(line) : std::string_view();
 }
 
 /// Characters by which the codec tells byte forms apart mean nothing to other programs: these get

@@ -1,6 +1,7 @@
 // A rich text control as plain data.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -33,9 +34,13 @@ class MemoryRichTextBox : public RichTextBox {
   void SetText(std::string_view text) override;
 
   int SelStart() override { return selection_.start; }
-  void SetSelStart(int position) override;
+  void SetSelStart(int position) override {
+    selection_ = {std::clamp(position, 0, Content().Size()), 0};
+  }
   int SelLength() override { return selection_.length; }
-  void SetSelLength(int length) override;
+  void SetSelLength(int length) override {
+    selection_.length = std::clamp(length, 0, Content().Size() - selection_.start);
+  }
 
   void SetSelColor(Color color) override { Edited().SetColor(selection_, color); }
   void SetSelFontName(std::string_view name) override { Edited().SetFontName(selection_, name); }
@@ -53,13 +58,20 @@ class MemoryRichTextBox : public RichTextBox {
   int LineFromCaret() override { return Content().LineAt(selection_.start); }
   int LineIndexOfCaret() override { return Content().LineStart(LineFromCaret()); }
   int LineLength(int position) override;
-  std::string Line(int line) override;
+  void ReadLine(int line, std::string& text) override;
 
-  const RichText& Content() const;
+  const RichText& Content() const {
+    if (unread_) [[unlikely]] ReadUnread();
+    return content_;
+  }
   bool WrapsWords() const { return wraps_; }
 
  private:
-  RichText& Edited();
+  void ReadUnread() const;
+  RichText& Edited() {
+    Content();
+    return content_;
+  }
   std::string RichTextBytes(TextRange range);
   std::string PlainTextBytes(std::string_view path);
 

@@ -1,9 +1,11 @@
 #include "memory/memory_text_files.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "environment/run_time_error.h"
 #include "environment/utf8.h"
+#include "memory/huge_pages.h"
 
 namespace brimwork {
 namespace {
@@ -14,13 +16,25 @@ class MemoryOutputFile : public OutputFile {
       : files_(files), path_(std::move(path)), unencodable_(unencodable) {}
 
   void PrintLine(std::string_view line) override {
+    MakeRoom(line.size() + kLineEnd.size());
     AppendEncoded(line);
-    bytes_ += "\r\n";
+    bytes_ += kLineEnd;
   }
 
   void Close() override { files_.Write(path_, std::move(bytes_)); }
 
  private:
+  static constexpr std::string_view kLineEnd = "\r\n";
+
+  /// Growing in big steps copies little; room that is not used costs nothing.
+  void MakeRoom(std::size_t more) {
+    constexpr std::size_t kFirstRoom = 64 * 1024;
+    if (bytes_.capacity() - bytes_.size() >= more) return;
+    const std::size_t room = std::max({bytes_.size() + more, 4 * bytes_.capacity(), kFirstRoom});
+    bytes_.reserve(room);
+    PreferHugePages(bytes_.data(), room);
+  }
+
   void AppendEncoded(std::string_view text) {
     while (true) {
       try {

@@ -14,6 +14,8 @@
 namespace brimwork {
 namespace {
 
+constexpr std::string_view kCrLf = "\r\n";
+
 constexpr std::size_t kFirstBlockBytes = 256 * 1024;
 constexpr std::size_t kLargestBlockBytes = 16 * 1024 * 1024;
 
@@ -91,13 +93,33 @@ void ModuleText::Delete(int line, int count) {
   }
 }
 
-std::string ModuleText::Joined() const {
+std::string ModuleText::Joined(int first, int last) const {
+  std::size_t size = 0;
+  for (int line = first; line <= last; ++line) size += Line(line).size() + kCrLf.size();
   std::string joined;
-  for (int line = 1; line <= Count(); ++line) {
-    if (line > 1) joined += "\r\n";
-    joined += Line(line);
+  joined.reserve(size);
+  PreferHugePages(joined.data(), size);
+  for (int line = first; line <= last;) {
+    const Stretch stretch = StretchAt(line, last);
+    joined.append(stretch.text).append(kCrLf);
+    line = stretch.last + 1;
   }
+  joined.resize(size - kCrLf.size());
   return joined;
+}
+
+/// The lines from one on that stand in memory as they are to be joined. Most of a module that was
+/// read does.
+ModuleText::Stretch ModuleText::StretchAt(int line, int last) const {
+  const char* const start = Line(line).data();
+  const char* end = start + Line(line).size();
+  for (; line < last; ++line) {
+    const std::string_view next = Line(line + 1);
+    if (next.data() != end + kCrLf.size() || std::memcmp(end, kCrLf.data(), kCrLf.size()) != 0)
+      break;
+    end = next.data() + next.size();
+  }
+  return {{start, static_cast<std::size_t>(end - start)}, line};
 }
 
 void ModuleText::MoveGap(std::size_t to, std::size_t atLeast) {

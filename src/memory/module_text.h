@@ -65,7 +65,9 @@ class ModuleText {
   bool StoredAsciiOnly() const { return storedAsciiOnly_; }
 
   /// All lines with CR LF between them.
-  std::string Joined() const;
+  std::string Joined() const { return Count() > 0 ? Joined(1, Count()) : std::string(); }
+  /// Lines first to last, which there are, with CR LF between them.
+  std::string Joined(int first, int last) const;
 
  private:
   struct TextLine {
@@ -79,6 +81,12 @@ class ModuleText {
     void SetHiddenGroup(std::uint32_t group) { tail = group << 2 | (tail & 3); }
   };
 
+  /// Lines that can be copied as one.
+  struct Stretch {
+    std::string_view text;  // without the last one's end
+    int last;
+  };
+
   static constexpr std::size_t kSpareSlots = 64;
 
   std::size_t GapSize() const { return gapEnd_ - gapStart_; }
@@ -88,6 +96,7 @@ class ModuleText {
   }
   TextLine& Slot(int line) { return const_cast<TextLine&>(std::as_const(*this).Slot(line)); }
 
+  Stretch StretchAt(int line, int last) const;
   void MoveGap(std::size_t to, std::size_t atLeast);
   void SetText(TextLine& slot, std::string_view text);
   const char* Store(std::string_view text);

@@ -24,16 +24,17 @@ std::size_t PlainEnd(std::string_view text, std::size_t at) {
   return at;
 }
 
-/// Whether every line end of text is CR LF already.
-bool HasCrLfOnly(std::string_view text) {
-  for (std::size_t at = 0; at < text.size();) {
-    const auto carriageReturn = text.find('\r', at);
-    const auto lineFeed = text.find('\n', at);
-    if (carriageReturn == std::string_view::npos) return lineFeed == std::string_view::npos;
-    if (lineFeed != carriageReturn + 1) return false;
-    at = lineFeed + 1;
+/// Whether text is ASCII with CR LF at every line end, as most of it is. All of it is looked at
+/// without a branch, which compilers turn into many bytes at a time.
+bool IsAsciiWithCrLf(std::string_view text) {
+  if (text.empty()) return true;
+  unsigned char all = static_cast<unsigned char>(text.front());
+  unsigned char alone = (text.front() == '\n') | (text.back() == '\r');
+  for (std::size_t i = 1; i < text.size(); ++i) {
+    all = static_cast<unsigned char>(all | text[i]);
+    alone = static_cast<unsigned char>(alone | ((text[i] == '\n') ^ (text[i - 1] == '\r')));
   }
-  return true;
+  return all < 0x80 && alone == 0;
 }
 
 /// Appends the line end that text starts with; returns its size there.
@@ -56,7 +57,7 @@ std::size_t AppendCharacter(std::string& result, std::string_view text) {
 }  // namespace
 
 std::string WithLineEnds(std::string_view text) {
-  if (FindNonAscii(text, 0) == text.size() && HasCrLfOnly(text)) return std::string(text);
+  if (IsAsciiWithCrLf(text)) return std::string(text);
   std::string result;
   result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
@@ -139,12 +140,6 @@ ByteRange RichText::BytesOf(TextRange range) const {
   return bytes;
 }
 
-int RichText::LineAt(int position) const { return lines_.LineAt(text_, ByteOf(position)); }
-
-int RichText::LineStart(int line) const {
-  return positions_.PositionOf(text_, lines_.Start(text_, line));
-}
-
 std::string_view RichText::Line(int line) const {
   const std::size_t start = lines_.Start(text_, line);
   const bool isLast = line + 1 == LineCount();
@@ -179,10 +174,6 @@ ByteRange RichText::CutBytesOf(TextRange range) const {
   const int length = std::clamp(range.length, 0, Size() - start);
   const std::size_t first = ByteOf(start);
   return {first, ByteOf(start + length)};
-}
-
-std::size_t RichText::ByteOf(int position) const {
-  return positions_.ByteOf(text_, std::clamp(position, 0, Size()));
 }
 
 }  // namespace brimwork

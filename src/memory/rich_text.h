@@ -1,6 +1,7 @@
 // The content of a rich text control: a text, its formats and its lines.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -62,9 +63,11 @@ class RichText {
   /// At least 1: a text that ends in a line end has an empty line behind it.
   int LineCount() const { return lines_.Count(text_); }
   /// The line that holds a position; one between CR and LF is in the line that they end.
-  int LineAt(int position) const;
+  int LineAt(int position) const { return lines_.LineAt(text_, ByteOf(position)); }
   /// First position of a line; there must be so many.
-  int LineStart(int line) const;
+  int LineStart(int line) const {
+    return positions_.PositionOf(text_, lines_.Start(text_, line));
+  }
   /// A line without its line end; there must be so many.
   std::string_view Line(int line) const;
 
@@ -82,7 +85,9 @@ class RichText {
   void Format(TextRange range, NewFormat newFormat);
 
   ByteRange CutBytesOf(TextRange range) const;
-  std::size_t ByteOf(int position) const;
+  std::size_t ByteOf(int position) const {
+    return positions_.ByteOf(text_, std::clamp(position, 0, Size()));
+  }
   bool IsWithinLineEnd(std::size_t byte) const { return byte > 0 && text_[byte - 1] == '\r'; }
 
   std::string text_;

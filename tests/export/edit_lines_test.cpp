@@ -13,7 +13,9 @@ struct EditLines : testing::Test, ExportFixture {
   /// "start|text" of the line at a position.
   std::string LineAt(int position) {
     editor.SetSelStart(position);
-    return std::to_string(GetCurrentLineStart(editor)) + '|' + GetCurrentLine(editor);
+    std::string line = "what was there before";
+    GetCurrentLine(editor, line);
+    return std::to_string(GetCurrentLineStart(editor)) + '|' + line;
   }
 };
 
@@ -90,7 +92,9 @@ class LostCaret : public MemoryRichTextBox {
 TEST_F(EditLines, AreEmptyWhereTheControlKnowsNoStart) {
   LostCaret control(textFiles);
   control.SetText("one");
-  EXPECT_EQ(GetCurrentLine(control), "");
+  std::string line = "what was there before";
+  GetCurrentLine(control, line);
+  EXPECT_EQ(line, "");
 }
 
 }  // namespace edit_lines_test

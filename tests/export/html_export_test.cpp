@@ -153,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("TextFiles.OpenForOutput", 1), std::pair("RichTextBox.LineCount", 1),
                     std::pair("RichTextBox.SetSelStart", 1),
                     std::pair("RichTextBox.SetSelStart", 2), std::pair("RichTextBox.LineLength", 2),
-                    std::pair("RichTextBox.Line", 1), std::pair("RichTextBox.Line", 2),
+                    std::pair("RichTextBox.ReadLine", 1), std::pair("RichTextBox.ReadLine", 2),
                     std::pair("OutputFile.PrintLine", 1), std::pair("OutputFile.PrintLine", 2),
                     std::pair("OutputFile.PrintLine", 4), std::pair("OutputFile.Close", 1)));
 

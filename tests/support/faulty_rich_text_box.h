@@ -72,8 +72,8 @@ class FaultyRichTextBox : public RichTextBox {
   int LineLength(int position) override {
     return calls_.Through("RichTextBox.LineLength", [&] { return inner_->LineLength(position); });
   }
-  std::string Line(int line) override {
-    return calls_.Through("RichTextBox.Line", [&] { return inner_->Line(line); });
+  void ReadLine(int line, std::string& text) override {
+    calls_.Through("RichTextBox.ReadLine", [&] { inner_->ReadLine(line, text); });
   }
 
  private:

@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "cli/app.h"
+#include "memory/huge_pages.h"
 
 namespace {
 
@@ -20,6 +21,7 @@ void OpenClosedStandardStreams() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  brimwork::PreferHugeHeap();
   OpenClosedStandardStreams();
   // A file that grows beyond the user's limit is then an error of that file, not the end of the
   // run.
