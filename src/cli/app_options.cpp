@@ -5,7 +5,6 @@
 #include <array>
 #include <map>
 #include <string_view>
-#include <thread>
 
 #include "cli/near_miss.h"
 #include "cli/settings_command.h"
@@ -69,10 +68,6 @@ std::string CheckedEncoding(const std::string& encoding) {
   } catch (const std::invalid_argument& error) {
     throw UsageError("--encoding: " + std::string(error.what()));
   }
-}
-
-int JobsOf(const AppOptions& options) {
-  return options.jobs.value_or(std::max(1, static_cast<int>(std::thread::hardware_concurrency())));
 }
 
 }  // namespace
@@ -168,7 +163,7 @@ RunOptions MakeCommonOptions(const AppOptions& options) {
   run.dateLocale = DateLocaleName();
   run.paths = options.paths;
   run.stdinFileName = options.stdinFileName;
-  run.jobs = JobsOf(options);
+  run.jobs = options.jobs;
   return run;
 }
 

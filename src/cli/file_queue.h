@@ -21,10 +21,10 @@ class FileQueue {
       : work_(std::move(work)), reports_(count) {}
 
   /// Calls take with each report, in order and on this thread. With one job, or for one thing, it
-  /// is also worked on here.
+  /// is also worked on here. Without a number of jobs there is one a processor.
   template <class Take>
-  void Run(int jobs, Take take) {
-    const std::size_t workersWanted = std::min<std::size_t>(jobs, reports_.size());
+  void Run(std::optional<int> jobs, Take take) {
+    const std::size_t workersWanted = WorkersFor(jobs);
     if (workersWanted <= 1) {
       for (std::size_t i = 0; i < reports_.size(); ++i) take(work_(i));
       return;
@@ -35,6 +35,14 @@ class FileQueue {
   }
 
  private:
+  /// The system is asked for its processors only where there is work for them.
+  std::size_t WorkersFor(std::optional<int> jobs) const {
+    if (reports_.size() <= 1) return reports_.size();
+    const std::size_t wanted = jobs ? static_cast<std::size_t>(*jobs)
+                                    : std::max(1u, std::thread::hardware_concurrency());
+    return std::min(wanted, reports_.size());
+  }
+
   void Work() {
     for (std::size_t i = next_++; i < reports_.size(); i = next_++) {
       Report report = work_(i);

@@ -32,7 +32,7 @@ struct RunOptions {
 
   std::vector<std::string> paths;  // as given; "-" is standard input
   std::string stdinFileName;
-  int jobs = 1;
+  std::optional<int> jobs;  // none: one a processor
 
   std::shared_ptr<SpellRun> spelling;  // null: no spelling is checked
 

@@ -1,6 +1,7 @@
 #include "memory/character_table.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "environment/utf8.h"
 
@@ -10,6 +11,8 @@ namespace {
 constexpr char32_t kFirstAlias = 0xF0000;
 constexpr char32_t kLastAlias = 0xFFFFD;
 constexpr std::size_t kLongestSequence = 4;
+
+constexpr std::string_view kUsualEncoding = "WINDOWS-1252";
 
 std::uint32_t KeyOf(std::string_view sequence) {
   std::uint32_t key = 0;
@@ -25,13 +28,23 @@ std::string Utf8Of(char32_t character) {
 
 }  // namespace
 
-CharacterTable::CharacterTable(const std::string& encoding)
-    : fromEncoding_(encoding, "UTF-8"), toEncoding_("UTF-8", encoding) {}
+CharacterTable::CharacterTable(std::string encoding) : encoding_(std::move(encoding)) {
+  if (encoding_ != kUsualEncoding) System();
+}
+
+/// The system loads its converters from files, which for a small module takes as long as all that
+/// is done with it. So those of the usual encoding wait for a character that needs them.
+CharacterTable::Converters& CharacterTable::System() {
+  if (!converters_) converters_.emplace(Converters{{encoding_, "UTF-8"}, {"UTF-8", encoding_}});
+  return *converters_;
+}
 
 bool CharacterTable::IsAsciiCompatible() {
+  if (encoding_ == kUsualEncoding) return true;
+  auto& [fromEncoding, toEncoding] = System();
   for (char byte = 0;; ++byte) {
-    const auto decoded = fromEncoding_.Convert({&byte, 1});
-    const auto encoded = toEncoding_.Convert({&byte, 1});
+    const auto decoded = fromEncoding.Convert({&byte, 1});
+    const auto encoded = toEncoding.Convert({&byte, 1});
     const bool same = decoded.converted == std::string_view(&byte, 1) &&
                       encoded.converted == std::string_view(&byte, 1);
     const bool oneCharacter =
@@ -58,7 +71,7 @@ CharacterTable::Entry& CharacterTable::EntryOf(std::string_view sequence) {
 }
 
 CharacterTable::Entry CharacterTable::LookUp(std::string_view sequence) {
-  const auto result = fromEncoding_.Convert(sequence);
+  const auto result = System().fromEncoding.Convert(sequence);
   switch (result.outcome) {
     case EncodingConverter::Outcome::kTruncated:
       return {0, State::kLonger};
@@ -87,7 +100,7 @@ std::string_view CharacterTable::Encode(char32_t character) {
   if (IsAlias(character)) return aliases_[character - kFirstAlias].bytes;
   const auto [entry, isNew] = encoded_.try_emplace(character);
   if (isNew) {
-    const auto result = toEncoding_.Convert(Utf8Of(character));
+    const auto result = System().toEncoding.Convert(Utf8Of(character));
     const bool isAscii = FindNonAscii(result.converted, 0) == result.converted.size();
     // One ASCII byte would be read as another character.
     if (result.outcome == EncodingConverter::Outcome::kComplete && !isAscii)

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,7 +22,7 @@ namespace brimwork {
 class CharacterTable {
  public:
   /// Throws std::invalid_argument for an unknown encoding.
-  explicit CharacterTable(const std::string& encoding);
+  explicit CharacterTable(std::string encoding);
 
   /// True when every byte below 128 stands for its ASCII character wherever a character starts, so
   /// that this table can be used. Bytes 5C and 7E may be drawn otherwise (a yen sign, an overline):
@@ -59,8 +60,14 @@ class CharacterTable {
   char32_t CharacterOf(std::string_view sequence, const std::string& text);
   bool IsAlias(char32_t character) const;
 
-  EncodingConverter fromEncoding_;
-  EncodingConverter toEncoding_;
+  struct Converters {
+    EncodingConverter fromEncoding;
+    EncodingConverter toEncoding;
+  };
+  Converters& System();
+
+  std::string encoding_;
+  std::optional<Converters> converters_;
   std::array<Entry, 256> single_;
   std::unordered_map<std::uint32_t, Entry> longer_;  // by the bytes of the sequence
   std::unordered_map<char32_t, std::string> encoded_;
