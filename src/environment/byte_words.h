@@ -72,4 +72,9 @@ inline bool HoldsLineFeedOrNonAscii(std::string_view text) {
   });
 }
 
+inline bool IsAscii(std::string_view text) {
+  return !byte_words::AnyWord(text,
+                              [](std::uint64_t word) { return word & byte_words::kHighBits; });
+}
+
 }  // namespace brimwork

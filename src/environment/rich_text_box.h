@@ -28,7 +28,7 @@ class RichTextBox {
   /// The whole text, lines joined by CR LF.
   virtual std::string Text() = 0;
   /// Replaces the whole content; a lone CR or LF becomes CR LF. The caret goes to the start.
-  virtual void SetText(std::string_view text) = 0;
+  virtual void SetText(std::string text) = 0;
 
   virtual int SelStart() = 0;
   /// Moves the caret and ends the selection; a position behind the text is drawn back to its end,

@@ -108,7 +108,7 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
   return parts;
 }
 
-int CharacterCount(std::string_view text) {
+int CountedCharacters(std::string_view text) {
   const std::size_t ascii = FindNonAscii(text, 0);
   int count = static_cast<int>(ascii);
   for (const char c : text.substr(ascii)) count += !IsContinuationByte(c);

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "environment/byte_words.h"
+
 namespace brimwork {
 
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -71,8 +73,13 @@ std::string Replace(std::string_view text, std::string_view from, std::string_vi
 
 std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
 
+/// CharacterCount, by counting them.
+int CountedCharacters(std::string_view text);
+
 /// Number of characters of UTF-8 text; a byte that is no UTF-8 counts as one character.
-int CharacterCount(std::string_view text);
+inline int CharacterCount(std::string_view text) {
+  return IsAscii(text) ? static_cast<int>(text.size()) : CountedCharacters(text);
+}
 
 /// Byte offset of a character (from 0), or the text's size when there are fewer characters.
 std::size_t ByteOffset(std::string_view text, int character);

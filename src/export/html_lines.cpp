@@ -1,5 +1,7 @@
 #include "export/html_lines.h"
 
+#include <array>
+
 #include "environment/byte_words.h"
 
 namespace brimwork {
@@ -8,6 +10,35 @@ namespace {
 constexpr std::string_view kKeywordOpenTag = "<font color=\"#000080\">";
 constexpr std::string_view kCommentOpenTag = "<font color=\"#008000\">";
 constexpr std::string_view kCloseTag = "</font>";
+
+constexpr std::string_view EscapeOf(char c) {
+  switch (c) {
+    case '"':
+      return "&quot;";
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    default:
+      return {};
+  }
+}
+
+/// How many characters at the start of text go into a word as they are.
+std::size_t PlainSize(std::string_view text) {
+  static constexpr auto kIsPlain = [] {
+    std::array<bool, 256> isPlain{};
+    for (std::size_t c = 0; c < isPlain.size(); ++c) {
+      isPlain[c] = EscapeOf(static_cast<char>(c)).empty();
+    }
+    return isPlain;
+  }();
+  std::size_t size = 0;
+  while (size < text.size() && kIsPlain[static_cast<unsigned char>(text[size])]) ++size;
+  return size;
+}
 
 /// Where the word that starts at a place ends: at the next blank, which there is.
 std::size_t WordEnd(const PaddedText& line, std::size_t start) {
@@ -34,14 +65,14 @@ std::string_view HtmlLines::Convert(std::string_view line) {
   return outLine_.View();
 }
 
-std::size_t HtmlLines::TakeWord(std::size_t start) {
+inline std::size_t HtmlLines::TakeWord(std::size_t start) {
   const std::size_t end = WordEnd(line_, start);
   CloseWord(Gathered(line_.View().substr(start, end - start)));
   return end + 1;
 }
 
 /// Each blank closes an empty word. One empty word behind another changes nothing more.
-std::size_t HtmlLines::TakeBlanks(std::size_t start) {
+inline std::size_t HtmlLines::TakeBlanks(std::size_t start) {
   CloseWord(line_.View().substr(start, 0));
   std::size_t at = start + 1;
   for (; at < line_.Size() && line_.Data()[at] == ' '; ++at) outLine_.Append(' ');
@@ -55,30 +86,24 @@ std::size_t HtmlLines::TakeRest(std::size_t start) {
 }
 
 /// The word as it is gathered, character by character.
-std::string_view HtmlLines::Gathered(std::string_view word) {
-  if (!needsEscapes_) return word;
-  word_.Clear();
-  for (const char c : word) AddEscaped(c);
-  return word_.View();
+inline std::string_view HtmlLines::Gathered(std::string_view word) {
+  if (!needsEscapes_ || PlainSize(word) == word.size()) return word;
+  return Escaped(word);
 }
 
-void HtmlLines::AddEscaped(char c) {
-  switch (c) {
-    case '"':
-      inString_ = !inString_;
-      return word_.Append("&quot;");
-    case '&':
-      return word_.Append("&amp;");
-    case '<':
-      return word_.Append("&lt;");
-    case '>':
-      return word_.Append("&gt;");
-    default:
-      return word_.Append(c);
+std::string_view HtmlLines::Escaped(std::string_view word) {
+  word_.Clear();
+  while (true) {
+    const std::size_t plain = PlainSize(word);
+    word_.Append(word.substr(0, plain));
+    if (plain == word.size()) return word_.View();
+    if (word[plain] == '"') inString_ = !inString_;
+    word_.Append(EscapeOf(word[plain]));
+    word.remove_prefix(plain + 1);
   }
 }
 
-void HtmlLines::CloseWord(std::string_view word) {
+inline void HtmlLines::CloseWord(std::string_view word) {
   if (word.starts_with('\'')) OpenComment();
   if (!inComment_) ColorKeyword(word);
   outLine_.AppendPadded(word);
@@ -92,7 +117,7 @@ void HtmlLines::OpenComment() {
   inComment_ = true;
 }
 
-void HtmlLines::ColorKeyword(std::string_view word) {
+inline void HtmlLines::ColorKeyword(std::string_view word) {
   const bool isKeyword = !inString_ && keywords_.Holds(word);
   if (isKeyword == keywordOpen_) return;
   outLine_.Append(isKeyword ? kKeywordOpenTag : kCloseTag);

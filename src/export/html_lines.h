@@ -22,7 +22,7 @@ class HtmlLines {
   std::size_t TakeBlanks(std::size_t start);
   std::size_t TakeRest(std::size_t start);
   std::string_view Gathered(std::string_view word);
-  void AddEscaped(char c);
+  std::string_view Escaped(std::string_view word);
   void CloseWord(std::string_view word);
   void OpenComment();
   void ColorKeyword(std::string_view word);

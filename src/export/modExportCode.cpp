@@ -98,9 +98,9 @@ void ExportCode(const ExportTools& tools, std::string_view format, bool selected
   Environment& environment = tools.environment;
   WithCodeSource(environment, [&](CodeModule& module) {
     const auto error = ResumeNext([&] {
-      const std::string code = selectedOnly ? SelectedCode(environment) : WholeCode(module);
+      std::string code = selectedOnly ? SelectedCode(environment) : WholeCode(module);
       RichTextBox& editor = tools.form.rtf();
-      editor.SetText(code);
+      editor.SetText(std::move(code));
       WriteInFormat(tools, editor, format);
     });
     if (error) TellOfError(environment);

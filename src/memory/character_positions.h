@@ -13,6 +13,8 @@ class CharacterPositions {
   /// Starts over with another text.
   void Reset(std::string_view text);
 
+  bool IsAscii(std::string_view text) const { return count_ == text.size(); }
+
   int Count() const { return static_cast<int>(count_); }
 
   /// Byte at which a character starts, or the text's end; position is at most Count().
@@ -35,7 +37,6 @@ class CharacterPositions {
     std::size_t position = 0;
   };
 
-  bool IsAscii(std::string_view text) const { return count_ == text.size(); }
   std::size_t SearchByte(std::string_view text, std::size_t target) const;
   std::size_t SearchPosition(std::string_view text, std::size_t byte) const;
   Place Nearest(std::string_view text, std::size_t Place::*measure, std::size_t target) const;

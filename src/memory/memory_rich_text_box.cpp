@@ -1,6 +1,6 @@
 #include "memory/memory_rich_text_box.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "environment/run_time_error.h"
 #include "environment/text.h"
@@ -9,9 +9,9 @@
 
 namespace brimwork {
 
-void MemoryRichTextBox::SetText(std::string_view text) {
+void MemoryRichTextBox::SetText(std::string text) {
   unread_ = nullptr;
-  content_.SetText(text);
+  content_.SetText(std::move(text));
   selection_ = {};
 }
 
@@ -48,7 +48,7 @@ void MemoryRichTextBox::ReadUnread() const {
 }
 
 int MemoryRichTextBox::LineLength(int position) {
-  return CharacterCount(Content().Line(Content().LineAt(position)));
+  return Content().LineLength(Content().LineAt(position));
 }
 
 void MemoryRichTextBox::ReadLine(int line, std::string& text) {

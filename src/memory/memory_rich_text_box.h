@@ -31,7 +31,7 @@ class MemoryRichTextBox : public RichTextBox {
   WindowHandle hWnd() override { return handle_; }
 
   std::string Text() override { return Content().Text(); }
-  void SetText(std::string_view text) override;
+  void SetText(std::string text) override;
 
   int SelStart() override { return selection_.start; }
   void SetSelStart(int position) override {

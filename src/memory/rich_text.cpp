@@ -56,8 +56,9 @@ std::size_t AppendCharacter(std::string& result, std::string_view text) {
 
 }  // namespace
 
-std::string WithLineEnds(std::string_view text) {
-  if (IsAsciiWithCrLf(text)) return std::string(text);
+std::string WithLineEnds(std::string given) {
+  if (IsAsciiWithCrLf(given)) return given;
+  const std::string_view text = given;
   std::string result;
   result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
@@ -77,14 +78,14 @@ RichText::RichText(std::string text, FormatRuns formats)
   positions_.Reset(text_);
 }
 
-void RichText::SetText(std::string_view text) {
+void RichText::SetText(std::string text) {
   RequireRoom(text.size());
-  *this = RichText(WithLineEnds(text), FormatRuns());
+  *this = RichText(WithLineEnds(std::move(text)), FormatRuns());
 }
 
 int RichText::Replace(TextRange range, std::string_view text) {
   RequireRoom(text.size());
-  const std::string added = WithLineEnds(text);
+  const std::string added = WithLineEnds(std::string(text));
   const ByteRange bytes = BytesOf(range);
   RequireRoom(text_.size() - bytes.Size() + added.size());
   const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
@@ -108,7 +109,7 @@ void RichText::SetColor(TextRange range, Color color) {
 }
 
 void RichText::SetFontName(TextRange range, std::string_view name) {
-  const std::uint16_t font = formats_.FontIndex(WithLineEnds(name));
+  const std::uint16_t font = formats_.FontIndex(WithLineEnds(std::string(name)));
   Format(range, [font](PackedFormat format) {
     format.font = font;
     return format;
@@ -138,13 +139,6 @@ ByteRange RichText::BytesOf(TextRange range) const {
   if (isEmpty) bytes.end = bytes.start;
   if (IsWithinLineEnd(bytes.end)) ++bytes.end;
   return bytes;
-}
-
-std::string_view RichText::Line(int line) const {
-  const std::size_t start = lines_.Start(text_, line);
-  const bool isLast = line + 1 == LineCount();
-  const std::size_t end = isLast ? text_.size() : lines_.Start(text_, line + 1) - 2;
-  return std::string_view(text_).substr(start, end - start);
 }
 
 RichText RichText::Changed(const std::function<std::string(std::string_view)>& change) const {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "environment/text.h"
 #include "memory/character_positions.h"
 #include "memory/format_runs.h"
 #include "memory/line_starts.h"
@@ -20,7 +21,7 @@ struct TextRange {
 
 /// Text as a control holds it: a lone CR and a lone LF become CR LF, and a byte that is no UTF-8
 /// becomes U+FFFD.
-std::string WithLineEnds(std::string_view text);
+std::string WithLineEnds(std::string text);
 
 /// Positions are characters from 0; CR and LF are two of them, which are formatted and replaced
 /// together. Lines count from 0. One object is used by one thread at a time.
@@ -39,7 +40,7 @@ class RichText {
   int Size() const { return positions_.Count(); }
 
   /// Puts text in place of the whole content, in the format of a new control.
-  void SetText(std::string_view text);
+  void SetText(std::string text);
 
   /// Puts text in place of a range, in the format of the range's first character; the text of an
   /// insertion takes the format in front of it. Returns the position behind the new text.
@@ -69,7 +70,17 @@ class RichText {
     return positions_.PositionOf(text_, lines_.Start(text_, line));
   }
   /// A line without its line end; there must be so many.
-  std::string_view Line(int line) const;
+  std::string_view Line(int line) const {
+    const std::size_t start = lines_.Start(text_, line);
+    const bool isLast = line + 1 == LineCount();
+    const std::size_t end = isLast ? text_.size() : lines_.Start(text_, line + 1) - 2;
+    return {text_.data() + start, end - start};
+  }
+  /// In characters.
+  int LineLength(int line) const {
+    const std::string_view text = Line(line);
+    return positions_.IsAscii(text_) ? static_cast<int>(text.size()) : CharacterCount(text);
+  }
 
   /// The same formats over what change makes of each run's text; the result is as WithLineEnds
   /// gives it.

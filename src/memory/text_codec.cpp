@@ -93,6 +93,7 @@ class TextCodec::Utf8Way : public Way {
 
   std::string_view Encode(std::string_view text, std::string&,
                           const std::string& encoding) override {
+    if (IsAscii(text)) return text;
     const std::size_t invalid = FirstInvalidUtf8(text);
     if (invalid != text.size()) throw UnencodableCharacter(text, invalid, encoding);
     return text;
@@ -120,8 +121,8 @@ class TextCodec::TableWay : public Way {
 
   std::string_view Encode(std::string_view text, std::string& buffer,
                           const std::string& encoding) override {
+    if (IsAscii(text)) return text;
     std::size_t at = FindNonAscii(text, 0);
-    if (at == text.size()) return text;
     buffer.assign(text, 0, at);
     while (at < text.size()) {
       const std::size_t size = Utf8Size(text.substr(at));

@@ -20,8 +20,8 @@ class FaultyRichTextBox : public RichTextBox {
   std::string Text() override {
     return calls_.Through("RichTextBox.Text", [&] { return inner_->Text(); });
   }
-  void SetText(std::string_view text) override {
-    calls_.Through("RichTextBox.SetText", [&] { inner_->SetText(text); });
+  void SetText(std::string text) override {
+    calls_.Through("RichTextBox.SetText", [&] { inner_->SetText(std::move(text)); });
   }
   int SelStart() override {
     return calls_.Through("RichTextBox.SelStart", [&] { return inner_->SelStart(); });
