@@ -54,8 +54,7 @@ void frmInfo::ProgressMessage(std::string_view message, std::string_view formCap
   Repaint(lblInfo);
 }
 
-void frmInfo::UpdateProgressBar(int current, int total) {
-  if (drawn_.Holds(current, total)) return;
+void frmInfo::RedrawBar(int current, int total) {
   LoadIfPossible();
   drawn_ = {current, LastWithSamePercentage(current, total), total};
   DrawBar(Percentage(current, total));

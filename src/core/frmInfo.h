@@ -13,7 +13,7 @@
 namespace brimwork {
 
 /// Using it loads it. Commands go on without a window that cannot be made or shown.
-class frmInfo : public Form, public ProgressForm {
+class frmInfo : public ProgressForm, public Form {
  public:
   explicit frmInfo(const Environment& environment);
 
@@ -22,7 +22,9 @@ class frmInfo : public Form, public ProgressForm {
 
   /// Draws the bar for current of total. The percentage is rounded up and a finished run stays one
   /// step below 100. A bar that shows that percentage already is left as it is.
-  void UpdateProgressBar(int current, int total) override;
+  void UpdateProgressBar(int current, int total) override {
+    if (!drawn_.Holds(current, total)) [[unlikely]] RedrawBar(current, total);
+  }
 
   void ResetProgressBar();
 
@@ -45,6 +47,7 @@ class frmInfo : public Form, public ProgressForm {
 
  private:
   void LoadIfPossible();
+  void RedrawBar(int current, int total);
   void DrawBar(int percentage);
   void TakeOffBorder();
   void Repaint(Control& control);

@@ -1,6 +1,8 @@
 #include "export/code_coloring.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "environment/text.h"
 #include "environment/utf8.h"
@@ -11,9 +13,19 @@ namespace {
 constexpr Color kNavy = Rgb(0, 0, 128);
 constexpr Color kGreen = Rgb(0, 128, 0);
 
-constexpr bool IsWordCharacter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
-}
+enum class Kind : unsigned char { kSeparator, kWordCharacter, kQuote, kApostrophe };
+
+constexpr auto kKinds = [] {
+  std::array<Kind, 256> kinds{};
+  for (char c = 'A'; c <= 'Z'; ++c) kinds[static_cast<std::size_t>(c)] = Kind::kWordCharacter;
+  for (char c = 'a'; c <= 'z'; ++c) kinds[static_cast<std::size_t>(c)] = Kind::kWordCharacter;
+  kinds['_'] = Kind::kWordCharacter;
+  kinds['"'] = Kind::kQuote;
+  kinds['\''] = Kind::kApostrophe;
+  return kinds;
+}();
+
+Kind KindOf(char c) { return kKinds[static_cast<unsigned char>(c)]; }
 
 void Select(RichTextBox& control, int start, int length) {
   control.SetSelStart(start);
@@ -23,87 +35,105 @@ void Select(RichTextBox& control, int start, int length) {
 }  // namespace
 
 CodeColoring::CodeColoring(const ExportTools& tools, RichTextBox& work, KeywordList& keywords,
-                           std::string_view text)
+                           std::string text)
     : tools_(tools),
       work_(work),
       keywords_(keywords),
-      text_(std::string(text) + ' '),
+      text_(std::move(text) + ' '),
       length_(CharacterCount(text_)),
       isAscii_(static_cast<std::size_t>(length_) == text_.size()) {}
 
 void CodeColoring::Run() {
-  while (at_.character <= length_) {
-    tools_.environment.messageLoop.DoEvents();
-    Take();
-    tools_.form.UpdateProgressBar(at_.character, length_);
-    at_.byte +=
-        isAscii_ ? 1 : std::max<std::size_t>(Utf8Size(std::string_view(text_).substr(at_.byte)), 1);
-    ++at_.character;
+  MessageLoop& messageLoop = tools_.environment.messageLoop;
+  ProgressForm& form = tools_.form;
+  for (Place at; at.character <= length_; at = Behind(at)) {
+    messageLoop.DoEvents();
+    at = Taken(at);
+    form.UpdateProgressBar(at.character, length_);
   }
 }
 
-void CodeColoring::Take() {
-  const char c = text_[at_.byte];
-  if (IsWordCharacter(c)) {
-    AddToWord();
-  } else if (c == '"') {
-    SkipLiteral();
-  } else if (c == '\'') {
-    ColorComment();
-  } else {
-    CheckWord();
+/// Does what the character at a place asks for; returns the place that was reached by that.
+inline CodeColoring::Place CodeColoring::Taken(Place at) {
+  switch (KindOf(text_[at.byte])) {
+    case Kind::kWordCharacter:
+      AddToWord(at);
+      return at;
+    case Kind::kQuote:
+      return SkipLiteral(at);
+    case Kind::kApostrophe:
+      return ColorComment(at);
+    case Kind::kSeparator:
+      CheckWord(at);
+      return at;
   }
+  return at;
 }
 
-void CodeColoring::AddToWord() {
+inline CodeColoring::Place CodeColoring::Behind(Place at) const {
+  if (isAscii_) return {at.character + 1, at.byte + 1};
+  const std::size_t size = Utf8Size(std::string_view(text_).substr(at.byte));
+  return {at.character + 1, at.byte + std::max<std::size_t>(size, 1)};
+}
+
+inline void CodeColoring::AddToWord(Place at) {
   if (lettersStart_ != kNoLetters) return;
-  lettersStart_ = at_.byte;
-  if (word_.empty()) wordStart_ = at_.character;
+  lettersStart_ = at.byte;
+  if (word_.empty()) wordStart_ = at.character;
 }
 
 /// The letters so far belong to the word, whatever comes next.
-void CodeColoring::Interrupt() {
+void CodeColoring::Interrupt(Place at) {
   if (lettersStart_ == kNoLetters) return;
-  word_.append(text_, lettersStart_, at_.byte - lettersStart_);
+  word_.append(text_, lettersStart_, at.byte - lettersStart_);
   lettersStart_ = kNoLetters;
 }
 
-void CodeColoring::SkipLiteral() {
-  Interrupt();
-  const auto closing = text_.find('"', at_.byte + 1);
-  if (closing == std::string::npos) RefuseOpenLiteral();
-  at_ = PlaceOf(closing);
+CodeColoring::Place CodeColoring::SkipLiteral(Place at) {
+  Interrupt(at);
+  const auto closing = text_.find('"', at.byte + 1);
+  if (closing == std::string::npos) RefuseOpenLiteral(at);
+  return PlaceOf(closing, at);
 }
 
-void CodeColoring::ColorComment() {
-  Interrupt();
-  const auto lineEnd = text_.find("\r\n", at_.byte);
-  const Place end = PlaceOf(lineEnd == std::string::npos ? text_.size() - 1 : lineEnd);
-  Select(work_, at_.character - 1, end.character - at_.character);
+CodeColoring::Place CodeColoring::ColorComment(Place at) {
+  Interrupt(at);
+  const auto lineEnd = text_.find("\r\n", at.byte);
+  const Place end = PlaceOf(lineEnd == std::string::npos ? text_.size() - 1 : lineEnd, at);
+  Select(work_, at.character - 1, end.character - at.character);
   work_.SetSelColor(kGreen);
-  at_ = end;
+  return end;
 }
 
-void CodeColoring::CheckWord() {
-  Interrupt();
-  if (word_.empty()) return;
-  if (const auto spelling = keywords_.SpellingOf(word_)) {
-    Select(work_, wordStart_ - 1, static_cast<int>(word_.size()));
-    work_.SetSelColor(kNavy);
-    work_.SetSelText(*spelling);
+inline void CodeColoring::CheckWord(Place at) {
+  if (word_.empty()) {
+    if (lettersStart_ == kNoLetters) return;
+    ColorKeyword(std::string_view(text_).substr(lettersStart_, at.byte - lettersStart_));
+    lettersStart_ = kNoLetters;
+  } else {
+    Interrupt(at);
+    ColorKeyword(word_);
+    word_.clear();
   }
-  word_.clear();
 }
 
-CodeColoring::Place CodeColoring::PlaceOf(std::size_t byte) const {
-  const std::string_view between = std::string_view(text_).substr(at_.byte, byte - at_.byte);
+void CodeColoring::ColorKeyword(std::string_view word) {
+  const auto spelling = keywords_.SpellingOf(word);
+  if (!spelling) return;
+  Select(work_, wordStart_ - 1, static_cast<int>(word.size()));
+  work_.SetSelColor(kNavy);
+  work_.SetSelText(*spelling);
+}
+
+CodeColoring::Place CodeColoring::PlaceOf(std::size_t byte, Place from) const {
+  const std::string_view between = std::string_view(text_).substr(from.byte, byte - from.byte);
   const int characters = isAscii_ ? static_cast<int>(between.size()) : CharacterCount(between);
-  return {at_.character + characters, byte};
+  return {from.character + characters, byte};
 }
 
-void CodeColoring::RefuseOpenLiteral() const {
+void CodeColoring::RefuseOpenLiteral(Place at) const {
   const auto linesAbove =
-      std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(at_.byte), '\n');
+      std::count(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(at.byte), '\n');
   throw RunTimeError(error_number::kInvalidProcedureCall,
                      "a quote has no further quote anywhere behind it",
                      static_cast<int>(linesAbove) + 1);

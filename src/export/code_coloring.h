@@ -13,7 +13,7 @@ class CodeColoring {
  public:
   /// text: what the control work holds.
   CodeColoring(const ExportTools& tools, RichTextBox& work, KeywordList& keywords,
-               std::string_view text);
+               std::string text);
 
   /// Raises error 5, with the line, for a quote without a further quote behind it.
   void Run();
@@ -27,14 +27,16 @@ class CodeColoring {
     std::size_t byte = 0;
   };
 
-  void Take();
-  void AddToWord();
-  void Interrupt();
-  void SkipLiteral();
-  void ColorComment();
-  void CheckWord();
-  Place PlaceOf(std::size_t byte) const;
-  [[noreturn]] void RefuseOpenLiteral() const;
+  Place Taken(Place at);
+  Place Behind(Place at) const;
+  void AddToWord(Place at);
+  void Interrupt(Place at);
+  Place SkipLiteral(Place at);
+  Place ColorComment(Place at);
+  void CheckWord(Place at);
+  void ColorKeyword(std::string_view word);
+  Place PlaceOf(std::size_t byte, Place from) const;
+  [[noreturn]] void RefuseOpenLiteral(Place at) const;
 
   const ExportTools& tools_;
   RichTextBox& work_;
@@ -42,7 +44,6 @@ class CodeColoring {
   std::string text_;  // with a blank behind it, which closes the last word
   int length_;        // in characters
   bool isAscii_;
-  Place at_;
   // The word that is being gathered: what came in front of a literal or comment, and the letters
   // right in front of here.
   std::string word_;

@@ -36,7 +36,7 @@ int KeywordList::PositionOf(std::string_view word) {
                    [&](std::string_view sought) { return PositionIn(text_, sought, kNowhere); });
 }
 
-std::optional<std::string_view> KeywordList::SpellingOf(std::string_view word) {
+std::optional<std::string_view> KeywordList::KnownSpellingOf(std::string_view word) {
   const int position = ignoringCase_.Of(word, [&](std::string_view sought) {
     return PositionIn(upperCase_, UpperCaseAscii(sought), kNowhere);
   });

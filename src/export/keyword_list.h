@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "environment/text.h"
 #include "export/word_positions.h"
 
 namespace brimwork {
@@ -22,7 +23,10 @@ class KeywordList {
 
   /// The first place in the list that equals word but for the case of its letters, as the list
   /// writes it; nothing when there is none. word: ASCII.
-  std::optional<std::string_view> SpellingOf(std::string_view word);
+  std::optional<std::string_view> SpellingOf(std::string_view word) {
+    if (!word.empty() && !upperCasePairs_.MayHold(word, ToUpperAscii)) return std::nullopt;
+    return KnownSpellingOf(word);
+  }
 
  private:
   static constexpr int kNowhere = -1;
@@ -35,9 +39,16 @@ class KeywordList {
 
     /// False when the text lacks what word, which is not empty, starts or ends with.
     bool MayHold(std::string_view word) const {
-      if (word.size() == 1) return single_[Byte(word[0])];
-      return pairs_[Index(word[0], word[1])] &&
-             pairs_[Index(word[word.size() - 2], word[word.size() - 1])];
+      return MayHold(word, [](char c) { return c; });
+    }
+
+    /// The same for the word of which each character is changed so.
+    template <class Change>
+    bool MayHold(std::string_view word, Change change) const {
+      const auto at = [&](std::size_t i) { return change(word[i]); };
+      const std::size_t size = word.size();
+      if (size == 1) return single_[Byte(at(0))];
+      return pairs_[Index(at(0), at(1))] && pairs_[Index(at(size - 2), at(size - 1))];
     }
 
    private:
@@ -53,6 +64,7 @@ class KeywordList {
   };
 
   int PositionOf(std::string_view word);
+  std::optional<std::string_view> KnownSpellingOf(std::string_view word);
 
   std::string text_;
   std::string upperCase_;

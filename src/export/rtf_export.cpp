@@ -1,5 +1,7 @@
 #include "export/rtf_export.h"
 
+#include <utility>
+
 #include "environment/text.h"
 #include "export/code_coloring.h"
 #include "export/modSaveAs.h"
@@ -28,10 +30,10 @@ void Format(const ExportTools& tools, RichTextBox& editor, RichTextBox& work,
   editor.SetWordWrap(false);
   work.SetWordWrap(false);
   work.SetText(editor.Text());
-  const std::string text = work.Text();
+  std::string text = work.Text();
   const int length = CharacterCount(text);
   SetInPlainType(work, length);
-  CodeColoring(tools, work, keywords, text).Run();
+  CodeColoring(tools, work, keywords, std::move(text)).Run();
   SelectAll(work, length);
   editor.SetTextRTF(work.SelRTF());
 }
