@@ -3,8 +3,8 @@
 
 #include <string_view>
 
+#include "environment/padded_text.h"
 #include "export/keyword_list.h"
-#include "export/padded_text.h"
 
 namespace brimwork {
 

@@ -24,7 +24,8 @@ class KeywordList {
   /// The first place in the list that equals word but for the case of its letters, as the list
   /// writes it; nothing when there is none. word: ASCII.
   std::optional<std::string_view> SpellingOf(std::string_view word) {
-    if (!word.empty() && !upperCasePairs_.MayHold(word, ToUpperAscii)) return std::nullopt;
+    if (!word.empty() && !upperCasePairs_.MayHold(word, [](char c) { return ToUpperAscii(c); }))
+      return std::nullopt;
     return KnownSpellingOf(word);
   }
 

@@ -59,7 +59,8 @@ class WordPositions {
   static Key KeyOf(std::string_view word) {
     const auto size = static_cast<std::uint32_t>(word.size());
     const char* const data = word.data();
-    if (word.size() > kLongestWhole) [[unlikely]] return {HashOf(word), 0, size};
+    if (word.size() > kLongestWhole) [[unlikely]]
+      return {HashOf(word), 0, size};
     if (size >= 8) {
       return {Letters<std::uint64_t>(data), Letters<std::uint64_t>(data + size - 8), size};
     }

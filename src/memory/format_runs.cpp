@@ -16,18 +16,13 @@ FormatRuns::FormatRuns() { FontIndex(kDefaultFontName); }
 
 // Most questions are about the end of what is formatted so far, so the search gallops back from
 // there.
-std::size_t FormatRuns::IndexAt(std::size_t byte) const {
+std::size_t FormatRuns::SearchIndex(std::size_t byte) const {
   std::size_t reach = 1;
   while (reach < runs_.size() && runs_[runs_.size() - reach].start > byte) reach *= 2;
   const auto from = runs_.end() - Signed(std::min(reach, runs_.size()));
   const auto next = std::upper_bound(
       from, runs_.end(), byte, [](std::size_t at, const FormatRun& run) { return at < run.start; });
   return static_cast<std::size_t>(next - runs_.begin()) - 1;
-}
-
-bool FormatRuns::IsUniform(ByteRange range) const {
-  const std::size_t next = IndexAt(range.start) + 1;
-  return next == runs_.size() || range.end <= runs_[next].start;
 }
 
 TextFormat FormatRuns::Unpacked(const PackedFormat& format) const {

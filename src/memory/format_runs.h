@@ -60,10 +60,18 @@ class FormatRuns {
   std::span<const FormatRun> Runs() const { return runs_; }
 
   /// Index of the run that holds a byte.
-  std::size_t IndexAt(std::size_t byte) const;
+  std::size_t IndexAt(std::size_t byte) const {
+    const std::size_t count = runs_.size();
+    if (runs_[count - 1].start <= byte) return count - 1;
+    if (runs_[count - 2].start <= byte) return count - 2;
+    return SearchIndex(byte);
+  }
 
   /// Whether one run holds the whole range.
-  bool IsUniform(ByteRange range) const;
+  bool IsUniform(ByteRange range) const {
+    const std::size_t next = IndexAt(range.start) + 1;
+    return next == runs_.size() || range.end <= runs_[next].start;
+  }
 
   TextFormat Unpacked(const PackedFormat& format) const;
 
@@ -93,10 +101,18 @@ class FormatRuns {
   bool operator==(const FormatRuns& other) const;
 
  private:
+  std::size_t SearchIndex(std::size_t byte) const;
   std::size_t Split(std::size_t byte);
   std::size_t SplitEnd(std::size_t end, std::size_t textSize);
   void Insert(std::size_t byte, std::size_t size);
   void Erase(ByteRange range, std::size_t newSize, std::size_t textSize);
+  /// The way of all formatting down a text.
+  void ChangeWithinLast(ByteRange range, const PackedFormat& format) {
+    const PackedFormat around = runs_.back().format;
+    if (format == around) return;
+    runs_.push_back({static_cast<std::uint32_t>(range.start), format});
+    runs_.push_back({static_cast<std::uint32_t>(range.end), around});
+  }
   void Shift(std::size_t index, std::size_t growth);
   void Merge(std::size_t first, std::size_t last);
 
@@ -107,6 +123,9 @@ class FormatRuns {
 
 template <class NewFormat>
 void FormatRuns::Change(ByteRange range, std::size_t textSize, NewFormat newFormat) {
+  if (range.start > runs_.back().start && range.start < range.end && range.end < textSize) {
+    return ChangeWithinLast(range, newFormat(runs_.back().format));
+  }
   const std::size_t first = Split(range.start);
   const std::size_t last = SplitEnd(range.end, textSize);
   for (std::size_t i = first; i < last; ++i) runs_[i].format = newFormat(runs_[i].format);

@@ -20,7 +20,8 @@ class LineStarts {
   /// The line that holds a byte, its line end included.
   int LineAt(std::string_view text, std::size_t byte) {
     LookThrough(text);
-    if (!Holds(last_, byte) && !Holds(++last_, byte)) [[unlikely]] last_ = Search(byte);
+    if (!Holds(last_, byte) && !Holds(++last_, byte)) [[unlikely]]
+      last_ = Search(byte);
     return static_cast<int>(last_);
   }
 
@@ -35,7 +36,8 @@ class LineStarts {
 
  private:
   void LookThrough(std::string_view text) {
-    if (seen_ < text.size()) [[unlikely]] LookThroughRest(text);
+    if (seen_ < text.size()) [[unlikely]]
+      LookThroughRest(text);
   }
   void LookThroughRest(std::string_view text);
   std::size_t Search(std::size_t byte) const;

@@ -61,7 +61,8 @@ class MemoryRichTextBox : public RichTextBox {
   void ReadLine(int line, std::string& text) override;
 
   const RichText& Content() const {
-    if (unread_) [[unlikely]] ReadUnread();
+    if (unread_) [[unlikely]]
+      ReadUnread();
     return content_;
   }
   bool WrapsWords() const { return wraps_; }

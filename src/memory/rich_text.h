@@ -66,9 +66,7 @@ class RichText {
   /// The line that holds a position; one between CR and LF is in the line that they end.
   int LineAt(int position) const { return lines_.LineAt(text_, ByteOf(position)); }
   /// First position of a line; there must be so many.
-  int LineStart(int line) const {
-    return positions_.PositionOf(text_, lines_.Start(text_, line));
-  }
+  int LineStart(int line) const { return positions_.PositionOf(text_, lines_.Start(text_, line)); }
   /// A line without its line end; there must be so many.
   std::string_view Line(int line) const {
     const std::size_t start = lines_.Start(text_, line);

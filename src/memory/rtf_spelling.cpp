@@ -25,22 +25,19 @@ std::size_t PlainSize(std::string_view text) {
   return size;
 }
 
-void AppendNumber(std::string& text, int number) {
-  std::array<char, 12> digits;
-  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-  text.append(digits.data(), result.ptr);
-}
+constexpr std::size_t kPieceSize = 4096;
 
 }  // namespace
 
-void RtfSpelling::AppendWord(std::string_view word) {
-  document_ += word;
-  isBehindWord_ = true;
+void RtfSpelling::Finish() {
+  if (piece_.Size() > 0) HandOver();
 }
 
 void RtfSpelling::AppendWord(std::string_view word, int number) {
   AppendWord(word);
-  AppendNumber(document_, number);
+  std::array<char, 12> digits;
+  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  piece_.Append(std::string_view(digits.data(), result.ptr));
 }
 
 void RtfSpelling::AppendText(std::string_view text) {
@@ -49,6 +46,7 @@ void RtfSpelling::AppendText(std::string_view text) {
     if (plain > 0) AppendPlain(text.substr(0, plain));
     text.remove_prefix(plain);
     if (!text.empty()) text.remove_prefix(AppendSpecial(text));
+    if (piece_.Size() >= kPieceSize) HandOver();
   }
 }
 
@@ -66,14 +64,14 @@ void RtfSpelling::AppendName(std::string_view name) {
 }
 
 void RtfSpelling::AppendSyntax(std::string_view syntax) {
-  document_ += syntax;
+  piece_.Append(syntax);
   isBehindWord_ = false;
 }
 
 void RtfSpelling::AppendPlain(std::string_view text) {
-  if (isBehindWord_) document_ += ' ';
+  if (isBehindWord_) piece_.Append(' ');
   isBehindWord_ = false;
-  document_ += text;
+  piece_.Append(text);
 }
 
 /// Appends the character that text starts with; returns its size there.
@@ -92,7 +90,7 @@ std::size_t RtfSpelling::AppendAsciiSpecial(char c) {
     AppendWord("\\tab");
   } else if (IsOneOf(c, "\\{}")) {
     AppendSyntax("\\");
-    document_ += c;
+    piece_.Append(c);
   } else {
     AppendHex(c);
   }
@@ -102,8 +100,8 @@ std::size_t RtfSpelling::AppendAsciiSpecial(char c) {
 void RtfSpelling::AppendHex(char c) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   AppendSyntax("\\'");
-  document_ += kDigits[static_cast<unsigned char>(c) >> 4];
-  document_ += kDigits[static_cast<unsigned char>(c) & 15];
+  piece_.Append(kDigits[static_cast<unsigned char>(c) >> 4]);
+  piece_.Append(kDigits[static_cast<unsigned char>(c) & 15]);
 }
 
 void RtfSpelling::AppendUnicode(char32_t character) {
@@ -119,6 +117,11 @@ void RtfSpelling::AppendUnicode(char32_t character) {
 void RtfSpelling::AppendUtf16(char32_t unit) {
   AppendWord("\\u", unit < 0x8000 ? static_cast<int>(unit) : static_cast<int>(unit) - 0x10000);
   AppendSyntax("?");
+}
+
+void RtfSpelling::HandOver() {
+  document_ += piece_.View();
+  piece_.Clear();
 }
 
 }  // namespace brimwork

@@ -4,16 +4,25 @@
 #include <string>
 #include <string_view>
 
+#include "environment/padded_text.h"
+
 namespace brimwork {
 
 /// Appends what belongs to the body of a document. Control words and text that go to the same
-/// document must all pass through here, so that text never runs into a control word.
+/// document must all pass through here, so that text never runs into a control word. What is
+/// spelled reaches the document by and by, and whole with Finish.
 class RtfSpelling {
  public:
   explicit RtfSpelling(std::string& document) : document_(document) {}
 
+  /// Nothing follows.
+  void Finish();
+
   /// word: with its backslash.
-  void AppendWord(std::string_view word);
+  void AppendWord(std::string_view word) {
+    piece_.Append(word);
+    isBehindWord_ = true;
+  }
   void AppendWord(std::string_view word, int number);
 
   /// text: UTF-8, its line ends CR LF, each of which becomes the end of a paragraph.
@@ -35,7 +44,10 @@ class RtfSpelling {
   void AppendUnicode(char32_t character);
   void AppendUtf16(char32_t unit);
 
+  void HandOver();
+
   std::string& document_;
+  PaddedText piece_;           // of the document, its latest
   bool isBehindWord_ = false;  // text that follows needs a blank in front of it
 };
 

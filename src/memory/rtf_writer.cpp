@@ -1,9 +1,9 @@
 #include "memory/rtf_writer.h"
 
 #include <array>
-#include <unordered_map>
-#include <vector>
+#include <span>
 
+#include "memory/number_table.h"
 #include "memory/rtf_spelling.h"
 
 namespace brimwork {
@@ -37,6 +37,7 @@ class RtfWriter {
     AppendHeader();
     AppendBody();
     spelling_.AppendSyntax("}\r\n");
+    spelling_.Finish();
     return std::move(document_);
   }
 
@@ -55,10 +56,8 @@ class RtfWriter {
   const ByteRange bytes_;
   std::string document_;
   RtfSpelling spelling_{document_};
-  std::vector<std::uint16_t> fonts_;  // in the order of their numbers, as the colours are
-  std::unordered_map<std::uint16_t, int> fontNumbers_;
-  std::vector<Color> colors_;
-  std::unordered_map<Color, int> colorNumbers_{{PackedFormat::kAutomatic, 0}};
+  NumberTable<std::uint16_t> fonts_;
+  NumberTable<Color> colors_;
 };
 
 /// The runs of which the range holds something; of an empty range the one that holds its place.
@@ -76,15 +75,10 @@ std::size_t RtfWriter::ExpectedSize() const {
 }
 
 void RtfWriter::NumberFontsAndColors() {
+  colors_.NumberOf(PackedFormat::kAutomatic);
   for (const FormatRun& run : Runs()) {
-    const auto fontNumber = static_cast<int>(fonts_.size());
-    if (fontNumbers_.try_emplace(run.format.font, fontNumber).second) {
-      fonts_.push_back(run.format.font);
-    }
-    const auto colorNumber = static_cast<int>(colors_.size()) + 1;
-    if (colorNumbers_.try_emplace(run.format.color, colorNumber).second) {
-      colors_.push_back(run.format.color);
-    }
+    fonts_.NumberOf(run.format.font);
+    colors_.NumberOf(run.format.color);
   }
 }
 
@@ -98,8 +92,8 @@ void RtfWriter::AppendHeader() {
 
 void RtfWriter::AppendFontTable() {
   spelling_.AppendSyntax("{\\fonttbl");
-  for (std::size_t number = 0; number < fonts_.size(); ++number) {
-    const std::string& name = content_.Formats().FontName(fonts_[number]);
+  for (std::size_t number = 0; number < fonts_.Values().size(); ++number) {
+    const std::string& name = content_.Formats().FontName(fonts_.Values()[number]);
     spelling_.AppendSyntax("{");
     spelling_.AppendWord("\\f", static_cast<int>(number));
     spelling_.AppendWord(FamilyOf(name));
@@ -113,7 +107,7 @@ void RtfWriter::AppendFontTable() {
 void RtfWriter::AppendColorTable() {
   spelling_.AppendWord("{\\colortbl");
   spelling_.AppendSyntax(" ;");
-  for (const Color color : colors_) {
+  for (const Color color : std::span(colors_.Values()).subspan(1)) {
     spelling_.AppendWord("\\red", static_cast<int>(color & 0xFF));
     spelling_.AppendWord("\\green", static_cast<int>(color >> 8 & 0xFF));
     spelling_.AppendWord("\\blue", static_cast<int>(color >> 16));
@@ -133,10 +127,10 @@ void RtfWriter::AppendBody() {
 
 void RtfWriter::AppendFormat(const PackedFormat& format, const PackedFormat* before) {
   if (before == nullptr || before->color != format.color) {
-    spelling_.AppendWord("\\cf", colorNumbers_[format.color]);
+    spelling_.AppendWord("\\cf", colors_.NumberOf(format.color));
   }
   if (before == nullptr || before->font != format.font) {
-    spelling_.AppendWord("\\f", fontNumbers_[format.font]);
+    spelling_.AppendWord("\\f", fonts_.NumberOf(format.font));
   }
   if (before == nullptr || before->halfPoints != format.halfPoints) {
     spelling_.AppendWord("\\fs", format.halfPoints);

@@ -46,7 +46,8 @@ class PaddedText {
 
  private:
   char* EndWithRoomFor(std::size_t more) {
-    if (room_ - size_ < more) [[unlikely]] MakeRoom(size_ + more);
+    if (room_ - size_ < more) [[unlikely]]
+      MakeRoom(size_ + more);
     return data_.get() + size_;
   }
 
