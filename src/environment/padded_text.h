@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -37,6 +38,17 @@ class PaddedText {
       std::memcpy(end + kPadding, text.data() + kPadding, text.size() - kPadding);
     }
     size_ += text.size();
+  }
+
+  /// Appends the characters in front of the first one that is not wanted; returns their number.
+  std::size_t AppendWhile(std::string_view text, const std::array<bool, 256>& wanted) {
+    char* const end = EndWithRoomFor(text.size());
+    std::size_t size = 0;
+    for (; size < text.size() && wanted[static_cast<unsigned char>(text[size])]; ++size) {
+      end[size] = text[size];
+    }
+    size_ += size;
+    return size;
   }
 
   void Append(char c) {

@@ -13,10 +13,11 @@ namespace {
 constexpr Color kNavy = Rgb(0, 0, 128);
 constexpr Color kGreen = Rgb(0, 128, 0);
 
-enum class Kind : unsigned char { kSeparator, kWordCharacter, kQuote, kApostrophe };
+enum class Kind : unsigned char { kWordCharacter, kSeparator, kQuote, kApostrophe };
 
 constexpr auto kKinds = [] {
   std::array<Kind, 256> kinds{};
+  kinds.fill(Kind::kSeparator);
   for (char c = 'A'; c <= 'Z'; ++c) kinds[static_cast<std::size_t>(c)] = Kind::kWordCharacter;
   for (char c = 'a'; c <= 'z'; ++c) kinds[static_cast<std::size_t>(c)] = Kind::kWordCharacter;
   kinds['_'] = Kind::kWordCharacter;
@@ -39,9 +40,9 @@ CodeColoring::CodeColoring(const ExportTools& tools, RichTextBox& work, KeywordL
     : tools_(tools),
       work_(work),
       keywords_(keywords),
-      text_(std::move(text) + ' '),
-      length_(CharacterCount(text_)),
-      isAscii_(static_cast<std::size_t>(length_) == text_.size()) {}
+      text_(std::move(text)),
+      length_(CharacterCount(text_) + 1),
+      isAscii_(static_cast<std::size_t>(length_) == text_.size() + 1) {}
 
 void CodeColoring::Run() {
   MessageLoop& messageLoop = tools_.environment.messageLoop;
@@ -55,17 +56,15 @@ void CodeColoring::Run() {
 
 /// Does what the character at a place asks for; returns the place that was reached by that.
 inline CodeColoring::Place CodeColoring::Taken(Place at) {
-  switch (KindOf(text_[at.byte])) {
-    case Kind::kWordCharacter:
-      AddToWord(at);
-      return at;
-    case Kind::kQuote:
-      return SkipLiteral(at);
-    case Kind::kApostrophe:
-      return ColorComment(at);
-    case Kind::kSeparator:
-      CheckWord(at);
-      return at;
+  const Kind kind = KindOf(text_[at.byte]);
+  if (kind == Kind::kWordCharacter) {
+    AddToWord(at);
+  } else if (kind == Kind::kQuote) {
+    return SkipLiteral(at);
+  } else if (kind == Kind::kApostrophe) {
+    return ColorComment(at);
+  } else {
+    CheckWord(at);
   }
   return at;
 }
@@ -99,7 +98,7 @@ CodeColoring::Place CodeColoring::SkipLiteral(Place at) {
 CodeColoring::Place CodeColoring::ColorComment(Place at) {
   Interrupt(at);
   const auto lineEnd = text_.find("\r\n", at.byte);
-  const Place end = PlaceOf(lineEnd == std::string::npos ? text_.size() - 1 : lineEnd, at);
+  const Place end = PlaceOf(std::min(lineEnd, text_.size()), at);
   Select(work_, at.character - 1, end.character - at.character);
   work_.SetSelColor(kGreen);
   return end;

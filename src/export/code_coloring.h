@@ -41,8 +41,9 @@ class CodeColoring {
   const ExportTools& tools_;
   RichTextBox& work_;
   KeywordList& keywords_;
-  std::string text_;  // with a blank behind it, which closes the last word
-  int length_;        // in characters
+  // Behind it stands a NUL, which closes the last word as the blank would that belongs there.
+  std::string text_;
+  int length_;  // in characters, with the blank
   bool isAscii_;
   // The word that is being gathered: what came in front of a literal or comment, and the letters
   // right in front of here.

@@ -19,11 +19,7 @@ constexpr std::array<bool, 256> PlainBytes() {
 
 constexpr std::array<bool, 256> kIsPlain = PlainBytes();
 
-std::size_t PlainSize(std::string_view text) {
-  std::size_t size = 0;
-  while (size < text.size() && kIsPlain[static_cast<unsigned char>(text[size])]) ++size;
-  return size;
-}
+bool IsPlain(char c) { return kIsPlain[static_cast<unsigned char>(c)]; }
 
 constexpr std::size_t kPieceSize = 4096;
 
@@ -33,8 +29,7 @@ void RtfSpelling::Finish() {
   if (piece_.Size() > 0) HandOver();
 }
 
-void RtfSpelling::AppendWord(std::string_view word, int number) {
-  AppendWord(word);
+void RtfSpelling::AppendNumber(int number) {
   std::array<char, 12> digits;
   const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
   piece_.Append(std::string_view(digits.data(), result.ptr));
@@ -42,10 +37,7 @@ void RtfSpelling::AppendWord(std::string_view word, int number) {
 
 void RtfSpelling::AppendText(std::string_view text) {
   while (!text.empty()) {
-    const std::size_t plain = PlainSize(text);
-    if (plain > 0) AppendPlain(text.substr(0, plain));
-    text.remove_prefix(plain);
-    if (!text.empty()) text.remove_prefix(AppendSpecial(text));
+    text.remove_prefix(IsPlain(text[0]) ? AppendPlain(text) : AppendSpecial(text));
     if (piece_.Size() >= kPieceSize) HandOver();
   }
 }
@@ -68,10 +60,11 @@ void RtfSpelling::AppendSyntax(std::string_view syntax) {
   isBehindWord_ = false;
 }
 
-void RtfSpelling::AppendPlain(std::string_view text) {
+/// Appends plain characters that text starts with; returns their number.
+std::size_t RtfSpelling::AppendPlain(std::string_view text) {
   if (isBehindWord_) piece_.Append(' ');
   isBehindWord_ = false;
-  piece_.Append(text);
+  return piece_.AppendWhile(text.substr(0, kPieceSize), kIsPlain);
 }
 
 /// Appends the character that text starts with; returns its size there.

@@ -23,7 +23,14 @@ class RtfSpelling {
     piece_.Append(word);
     isBehindWord_ = true;
   }
-  void AppendWord(std::string_view word, int number);
+  void AppendWord(std::string_view word, int number) {
+    AppendWord(word);
+    if (number >= 0 && number < 10) {
+      piece_.Append(static_cast<char>('0' + number));
+    } else {
+      AppendNumber(number);
+    }
+  }
 
   /// text: UTF-8, its line ends CR LF, each of which becomes the end of a paragraph.
   void AppendText(std::string_view text);
@@ -37,13 +44,14 @@ class RtfSpelling {
   void AppendSyntax(std::string_view syntax);
 
  private:
-  void AppendPlain(std::string_view text);
+  std::size_t AppendPlain(std::string_view text);
   std::size_t AppendSpecial(std::string_view text);
   std::size_t AppendAsciiSpecial(char c);
   void AppendHex(char c);
   void AppendUnicode(char32_t character);
   void AppendUtf16(char32_t unit);
 
+  void AppendNumber(int number);
   void HandOver();
 
   std::string& document_;
