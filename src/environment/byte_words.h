@@ -77,4 +77,19 @@ inline bool IsAscii(std::string_view text) {
                               [](std::uint64_t word) { return word & byte_words::kHighBits; });
 }
 
+/// How often text holds a character. Blocks that a byte can count are what compilers turn into
+/// many bytes at a time.
+inline std::size_t CountOf(std::string_view text, char sought) {
+  constexpr std::size_t kBlock = 240;
+  std::size_t count = 0;
+  while (!text.empty()) {
+    const std::string_view block = text.substr(0, kBlock);
+    unsigned char inBlock = 0;
+    for (const char c : block) inBlock = static_cast<unsigned char>(inBlock + (c == sought));
+    count += inBlock;
+    text.remove_prefix(block.size());
+  }
+  return count;
+}
+
 }  // namespace brimwork

@@ -45,6 +45,12 @@ std::size_t WordEnd(const PaddedText& line, std::size_t start) {
   return start + byte_words::SizeWithout<' '>(line.Data() + start);
 }
 
+std::size_t BlanksEnd(const PaddedText& line, std::size_t start) {
+  const std::string_view text = line.View();
+  while (start < text.size() && text[start] == ' ') ++start;
+  return start;
+}
+
 }  // namespace
 
 std::string_view HtmlLines::Convert(std::string_view line) {
@@ -74,9 +80,9 @@ inline std::size_t HtmlLines::TakeWord(std::size_t start) {
 /// Each blank closes an empty word. One empty word behind another changes nothing more.
 inline std::size_t HtmlLines::TakeBlanks(std::size_t start) {
   CloseWord(line_.View().substr(start, 0));
-  std::size_t at = start + 1;
-  for (; at < line_.Size() && line_.Data()[at] == ' '; ++at) outLine_.Append(' ');
-  return at;
+  const std::size_t end = BlanksEnd(line_, start);
+  outLine_.AppendPadded(line_.View().substr(start + 1, end - start - 1));
+  return end;
 }
 
 /// In a comment the words make no difference any more.

@@ -28,9 +28,9 @@ class MemoryOutputFile : public OutputFile {
 
   /// Growing in big steps copies little; room that is not used costs nothing.
   void MakeRoom(std::size_t more) {
-    constexpr std::size_t kFirstRoom = 64 * 1024;
+    constexpr std::size_t kFirstRoom = 2 * 1024 * 1024;
     if (bytes_.capacity() - bytes_.size() >= more) return;
-    const std::size_t room = std::max({bytes_.size() + more, 4 * bytes_.capacity(), kFirstRoom});
+    const std::size_t room = std::max({bytes_.size() + more, 2 * bytes_.capacity(), kFirstRoom});
     bytes_.reserve(room);
     PreferHugePages(bytes_.data(), room);
   }

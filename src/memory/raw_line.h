@@ -1,9 +1,9 @@
 // Lines as they stand on disk: text and line end apart, a lone CR being text.
 #pragma once
 
-#include <algorithm>
 #include <string_view>
 
+#include "environment/byte_words.h"
 #include "memory/module_text.h"
 
 namespace brimwork {
@@ -34,7 +34,7 @@ inline RawLine TakeLine(std::string_view& rest) {
 
 /// Number of lines that TakeLine finds.
 inline std::size_t CountLines(std::string_view text) {
-  const auto lineFeeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  const std::size_t lineFeeds = CountOf(text, '\n');
   const bool lastIsUnended = !text.empty() && text.back() != '\n';
   return lineFeeds + (lastIsUnended ? 1 : 0);
 }
