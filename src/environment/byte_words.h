@@ -36,6 +36,11 @@ bool AnyWord(std::string_view text, IsMarked isMarked) {
   return isMarked(word) != 0;
 }
 
+/// The high bit of each byte of word that is zero.
+constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
+  return ~(((word & ~kHighBits) + ~kHighBits) | word | ~kHighBits);
+}
+
 /// How many bytes stand in front of the first sought one, which there is. Up to seven bytes behind
 /// that one are read.
 template <char sought>
@@ -75,6 +80,25 @@ inline bool HoldsLineFeedOrNonAscii(std::string_view text) {
 inline bool IsAscii(std::string_view text) {
   return !byte_words::AnyWord(text,
                               [](std::uint64_t word) { return word & byte_words::kHighBits; });
+}
+
+/// Calls take(offset) for each place at which text holds the character.
+template <char sought, class Take>
+void ForEach(std::string_view text, Take take) {
+  std::size_t at = 0;
+  if constexpr (std::endian::native == std::endian::little) {
+    std::uint64_t word;
+    for (; at + sizeof word <= text.size(); at += sizeof word) {
+      std::memcpy(&word, text.data() + at, sizeof word);
+      std::uint64_t marks = byte_words::ZeroBytes(word ^ byte_words::Repeated(sought));
+      for (; marks != 0; marks &= marks - 1) {
+        take(at + static_cast<std::size_t>(std::countr_zero(marks)) / 8);
+      }
+    }
+  }
+  for (; at < text.size(); ++at) {
+    if (text[at] == sought) take(at);
+  }
 }
 
 /// How often text holds a character. Blocks that a byte can count are what compilers turn into

@@ -40,8 +40,8 @@ void PreferHugePages(void* data, std::size_t size) {
   Advise(begin, begin + size);
 }
 
-// A large page must not have been touched before it is asked for, and a small job needs none: so the
-// heap goes on a little in front of one.
+// A large page must not have been touched before it is asked for, and a small job needs none: so
+// the heap goes on a little in front of one.
 void PreferHugeHeap() {
 #ifdef __GLIBC__
   constexpr int kHeap = 16 * kHugePage;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "environment/byte_words.h"
+
 namespace brimwork {
 
 void LineStarts::Forget(std::size_t byte) {
@@ -15,11 +17,11 @@ std::size_t LineStarts::Search(std::size_t byte) const {
 }
 
 void LineStarts::LookThroughRest(std::string_view text) {
-  while (seen_ < text.size()) {
-    const auto lineFeed = text.find('\n', seen_);
-    seen_ = lineFeed == std::string_view::npos ? text.size() : lineFeed + 1;
-    if (lineFeed != std::string_view::npos) starts_.push_back(static_cast<std::uint32_t>(seen_));
-  }
+  const std::string_view rest = text.substr(seen_);
+  ForEach<'\n'>(rest, [this](std::size_t lineFeed) {
+    starts_.push_back(static_cast<std::uint32_t>(seen_ + lineFeed + 1));
+  });
+  seen_ = text.size();
 }
 
 }  // namespace brimwork

@@ -43,9 +43,7 @@ void MemoryRichTextBox::SaveFile(std::string_view path, SaveAs type) {
   }
 }
 
-void MemoryRichTextBox::ReadUnread() const {
-  content_ = ReadRtf(*std::exchange(unread_, nullptr));
-}
+void MemoryRichTextBox::ReadUnread() const { content_ = ReadRtf(*std::exchange(unread_, nullptr)); }
 
 int MemoryRichTextBox::LineLength(int position) {
   return Content().LineLength(Content().LineAt(position));

@@ -72,17 +72,6 @@ std::string WithLineEnds(std::string given) {
   return result;
 }
 
-namespace {
-
-/// As WithLineEnds gives it: text itself where it needs no change, else in mended.
-std::string_view Mended(std::string_view text, std::string& mended) {
-  if (IsAscii(text) && !ContainsOneOf<'\r', '\n'>(text)) return text;
-  mended = WithLineEnds(std::string(text));
-  return mended;
-}
-
-}  // namespace
-
 RichText::RichText(std::string text, FormatRuns formats)
     : text_(std::move(text)), formats_(std::move(formats)) {
   RequireRoom(text_.size());
@@ -96,14 +85,15 @@ void RichText::SetText(std::string text) {
 
 int RichText::Replace(TextRange range, std::string_view text) {
   RequireRoom(text.size());
-  std::string mended;
-  const std::string_view added = Mended(text, mended);
   const ByteRange bytes = BytesOf(range);
+  const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
+  if (removed == text && formats_.IsUniform(bytes)) return positions_.PositionOf(text_, bytes.end);
+  return Replace(bytes, WithLineEnds(std::string(text)));
+}
+
+int RichText::Replace(ByteRange bytes, const std::string& added) {
   RequireRoom(text_.size() - bytes.Size() + added.size());
   const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
-  if (removed == added && formats_.IsUniform(bytes)) {
-    return positions_.PositionOf(text_, bytes.end);
-  }
   const bool linesStay =
       removed.size() == added.size() && !Contains(removed, "\n") && !Contains(added, "\n");
   if (!linesStay) lines_.Forget(bytes.start);

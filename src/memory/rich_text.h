@@ -93,6 +93,7 @@ class RichText {
   template <class NewFormat>
   void Format(TextRange range, NewFormat newFormat);
 
+  int Replace(ByteRange bytes, const std::string& added);
   ByteRange CutBytesOf(TextRange range) const;
   std::size_t ByteOf(int position) const {
     return positions_.ByteOf(text_, std::clamp(position, 0, Size()));
