@@ -100,11 +100,11 @@ class OneFileExport {
 
   void Deliver(const ExportedModule& module, const std::optional<ExportTarget>& target) {
     if (!target) {
-      console_.Out(module.bytes);
+      console_.Out(*module.bytes);
       return;
     }
     if (MakesFolder()) MakeFolder(*request_.output);
-    WriteTarget(*target, module.bytes);
+    WriteTarget(*target, *module.bytes);
     console_.Note(path_ + ": exported to " + target->path);
   }
 

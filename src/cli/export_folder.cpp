@@ -81,7 +81,7 @@ class FolderExport {
     outcome.errors = module.errors;
     if (!module.errors.empty()) return outcome;
     try {
-      WriteTarget(targets_[i], module.bytes);
+      WriteTarget(targets_[i], *module.bytes);
     } catch (const SourceError& error) {
       outcome.errors.push_back(error.what());
       return outcome;

@@ -34,7 +34,7 @@ class ExportJob {
     const std::string written = AnswerWhereTo(result);
     session_.Run(request_.run.command);
     CollectErrors(written, result.errors);
-    if (result.errors.empty()) result.bytes = session_.Memory().textFiles.Take(written);
+    if (result.errors.empty()) result.bytes = session_.Memory().textFiles.TakeShared(written);
     result.name = file_.ForDisplay(file_.ModuleName());
     result.encoding = file_.Encoding();
     result.lines = file_.LineCount();

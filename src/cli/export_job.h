@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,13 +13,13 @@
 namespace brimwork {
 
 struct ExportedModule {
-  std::string bytes;        // of the file that the command wrote
-  std::string name;         // the module's
-  std::string encoding;     // the source's
-  int lines = 0;            // of the whole module
-  std::string quickFolder;  // where Quick Export would write; "" for the others
+  std::shared_ptr<const std::string> bytes;  // of the file that the command wrote
+  std::string name;                          // the module's
+  std::string encoding;                      // the source's
+  int lines = 0;                             // of the whole module
+  std::string quickFolder;                   // where Quick Export would write; "" for the others
 
-  std::vector<std::string> errors;  // one line each; there are no bytes then
+  std::vector<std::string> errors;  // one line each; bytes is null then
 };
 
 /// Never throws for what is wrong with the file. showProgress may be empty.

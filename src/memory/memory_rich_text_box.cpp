@@ -39,7 +39,9 @@ void MemoryRichTextBox::SaveFile(std::string_view path, SaveAs type) {
   if (type == SaveAs::kPlainText) {
     files_.Write(path, PlainTextBytes(path));
   } else {
-    files_.Write(path, unread_ ? *unread_ : RichTextBytes({0, content_.Size()}));
+    files_.Write(
+        path, unread_ ? unread_
+                      : std::make_shared<const std::string>(RichTextBytes({0, content_.Size()})));
   }
 }
 

@@ -70,7 +70,7 @@ std::unique_ptr<OutputFile> MemoryTextFiles::OpenForOutput(std::string_view path
   return std::make_unique<MemoryOutputFile>(*this, std::string(path), unencodable);
 }
 
-void MemoryTextFiles::Write(std::string_view path, std::string bytes) {
+void MemoryTextFiles::Write(std::string_view path, std::shared_ptr<const std::string> bytes) {
   if (isDiskFull) {
     throw RunTimeError(error_number::kPathFileAccess, std::string(path) + " cannot be written");
   }
@@ -85,13 +85,13 @@ TextCodec& MemoryTextFiles::Codec() {
 
 std::string MemoryTextFiles::BytesOf(std::string_view path) const {
   const auto file = files_.find(path);
-  return file == files_.end() ? std::string() : file->second;
+  return file == files_.end() ? std::string() : *file->second;
 }
 
-std::string MemoryTextFiles::Take(std::string_view path) {
+std::shared_ptr<const std::string> MemoryTextFiles::TakeShared(std::string_view path) {
   const auto file = files_.find(path);
-  if (file == files_.end()) return {};
-  std::string bytes = std::move(file->second);
+  if (file == files_.end()) return std::make_shared<const std::string>();
+  std::shared_ptr<const std::string> bytes = std::move(file->second);
   files_.erase(file);
   return bytes;
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "environment/text_files.h"
 #include "memory/text_codec.h"
@@ -18,7 +19,10 @@ class MemoryTextFiles : public TextFiles {
 
   /// Puts a whole file there, over any older one. Raises error 75 when no file can be written
   /// there.
-  void Write(std::string_view path, std::string bytes);
+  void Write(std::string_view path, std::string bytes) {
+    Write(path, std::make_shared<const std::string>(std::move(bytes)));
+  }
+  void Write(std::string_view path, std::shared_ptr<const std::string> bytes);
 
   /// The code page; WINDOWS-1252 until one is set. codec is used as long as this object.
   void SetCodec(TextCodec& codec) { codec_ = &codec; }
@@ -30,7 +34,9 @@ class MemoryTextFiles : public TextFiles {
   std::string BytesOf(std::string_view path) const;
 
   /// Takes the file away; "" when there is no such file.
-  std::string Take(std::string_view path);
+  std::string Take(std::string_view path) { return *TakeShared(path); }
+  /// The same without a copy; never null.
+  std::shared_ptr<const std::string> TakeShared(std::string_view path);
 
   std::size_t Count() const { return files_.size(); }
 
@@ -38,7 +44,7 @@ class MemoryTextFiles : public TextFiles {
   bool isDiskFull = false;
 
  private:
-  std::map<std::string, std::string, std::less<>> files_;
+  std::map<std::string, std::shared_ptr<const std::string>, std::less<>> files_;
   std::unique_ptr<TextCodec> ownCodec_;
   TextCodec* codec_ = nullptr;
 };

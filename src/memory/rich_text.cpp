@@ -164,12 +164,4 @@ void RichText::Format(TextRange range, NewFormat newFormat) {
   if (bytes.start < bytes.end || text_.empty()) formats_.Change(bytes, text_.size(), newFormat);
 }
 
-/// The bytes of a range as it stands, which may start or end within a line end.
-ByteRange RichText::CutBytesOf(TextRange range) const {
-  const int start = std::clamp(range.start, 0, Size());
-  const int length = std::clamp(range.length, 0, Size() - start);
-  const std::size_t first = ByteOf(start);
-  return {first, ByteOf(start + length)};
-}
-
 }  // namespace brimwork

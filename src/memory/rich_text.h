@@ -94,7 +94,13 @@ class RichText {
   void Format(TextRange range, NewFormat newFormat);
 
   int Replace(ByteRange bytes, const std::string& added);
-  ByteRange CutBytesOf(TextRange range) const;
+  /// The bytes of a range as it stands, which may start or end within a line end.
+  ByteRange CutBytesOf(TextRange range) const {
+    const int start = std::clamp(range.start, 0, Size());
+    const int length = std::clamp(range.length, 0, Size() - start);
+    const std::size_t first = positions_.ByteOf(text_, start);
+    return {first, positions_.ByteOf(text_, start + length)};
+  }
   std::size_t ByteOf(int position) const {
     return positions_.ByteOf(text_, std::clamp(position, 0, Size()));
   }
