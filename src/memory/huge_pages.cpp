@@ -45,7 +45,7 @@ void PreferHugePages(void* data, std::size_t size) {
 void PreferHugeHeap() {
 #ifdef __GLIBC__
   constexpr int kHeap = 16 * kHugePage;
-  constexpr std::size_t kSmallPages = 512 * 1024;
+  constexpr std::size_t kSmallPages = 256 * 1024;
   mallopt(M_MMAP_THRESHOLD, 2 * kHugePage);
   mallopt(M_TRIM_THRESHOLD, 2 * kHeap);
   mallopt(M_TOP_PAD, kHeap);
