@@ -207,9 +207,8 @@ void DefineSetup(CLI::App& setup, ParsedLine& line) {
 void AddSubcommand(CLI::App& app, const char* name, const char* description,
                    std::function<void(CLI::App&)> define) {
   CLI::App* const command = app.add_subcommand(name, description);
-  command->preparse_callback([command, define = std::move(define)](std::size_t) {
-    define(*command);
-  });
+  command->preparse_callback(
+      [command, define = std::move(define)](std::size_t) { define(*command); });
 }
 
 void DefineCommandLine(CLI::App& app, ParsedLine& line) {
