@@ -22,6 +22,7 @@ std::uintptr_t RoundUp(std::uintptr_t address, std::size_t unit) {
 
 void Advise([[maybe_unused]] std::uintptr_t begin, [[maybe_unused]] std::uintptr_t end) {
 #ifdef MADV_HUGEPAGE
+  if (end <= begin) return;
   const std::uintptr_t firstPage = RoundUp(begin, kPage);
   const std::uintptr_t endPage = end / kPage * kPage;
   madvise(reinterpret_cast<void*>(firstPage), endPage - firstPage, MADV_HUGEPAGE);
@@ -52,7 +53,8 @@ void PreferHugeHeap() {
   const std::uintptr_t end = HeapEnd();
   const std::uintptr_t firstHugePage = RoundUp(end + kSmallPages, kHugePage);
   sbrk(static_cast<std::intptr_t>(firstHugePage - kSmallPages - end));
-  void* const volatile fetched = std::malloc(kSmallPages / 2);  // volatile: or it would be left out
+  // More than the start of the heap has left; volatile: or it would be left out.
+  void* const volatile fetched = std::malloc(kSmallPages / 4 * 3);
   std::free(fetched);
   Advise(firstHugePage, HeapEnd());
   mallopt(M_TOP_PAD, kHugePage);

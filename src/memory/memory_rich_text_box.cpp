@@ -11,7 +11,7 @@ namespace brimwork {
 
 void MemoryRichTextBox::SetText(std::string text) {
   unread_ = nullptr;
-  content_.SetText(std::move(text));
+  content_.TakeText(std::move(text));
   selection_ = {};
 }
 

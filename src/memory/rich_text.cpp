@@ -78,7 +78,12 @@ RichText::RichText(std::string text, FormatRuns formats)
   positions_.Reset(text_);
 }
 
-void RichText::SetText(std::string text) {
+void RichText::SetText(std::string_view text) {
+  RequireRoom(text.size());
+  TakeText(std::string(text));
+}
+
+void RichText::TakeText(std::string text) {
   RequireRoom(text.size());
   *this = RichText(WithLineEnds(std::move(text)), FormatRuns());
 }
@@ -88,10 +93,10 @@ int RichText::Replace(TextRange range, std::string_view text) {
   const ByteRange bytes = BytesOf(range);
   const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
   if (removed == text && formats_.IsUniform(bytes)) return positions_.PositionOf(text_, bytes.end);
-  return Replace(bytes, WithLineEnds(std::string(text)));
+  return ReplaceBytes(bytes, WithLineEnds(std::string(text)));
 }
 
-int RichText::Replace(ByteRange bytes, const std::string& added) {
+int RichText::ReplaceBytes(ByteRange bytes, const std::string& added) {
   RequireRoom(text_.size() - bytes.Size() + added.size());
   const std::string_view removed = std::string_view(text_).substr(bytes.start, bytes.Size());
   const bool linesStay =

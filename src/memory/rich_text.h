@@ -40,7 +40,9 @@ class RichText {
   int Size() const { return positions_.Count(); }
 
   /// Puts text in place of the whole content, in the format of a new control.
-  void SetText(std::string text);
+  void SetText(std::string_view text);
+  /// The same without a copy, where text needs no change.
+  void TakeText(std::string text);
 
   /// Puts text in place of a range, in the format of the range's first character; the text of an
   /// insertion takes the format in front of it. Returns the position behind the new text.
@@ -93,7 +95,7 @@ class RichText {
   template <class NewFormat>
   void Format(TextRange range, NewFormat newFormat);
 
-  int Replace(ByteRange bytes, const std::string& added);
+  int ReplaceBytes(ByteRange bytes, const std::string& added);
   /// The bytes of a range as it stands, which may start or end within a line end.
   ByteRange CutBytesOf(TextRange range) const {
     const int start = std::clamp(range.start, 0, Size());

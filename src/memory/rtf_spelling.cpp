@@ -19,8 +19,6 @@ constexpr std::array<bool, 256> PlainBytes() {
 
 constexpr std::array<bool, 256> kIsPlain = PlainBytes();
 
-bool IsPlain(char c) { return kIsPlain[static_cast<unsigned char>(c)]; }
-
 constexpr std::size_t kPieceSize = 4096;
 
 }  // namespace
@@ -37,7 +35,8 @@ void RtfSpelling::AppendNumber(int number) {
 
 void RtfSpelling::AppendText(std::string_view text) {
   while (!text.empty()) {
-    text.remove_prefix(IsPlain(text[0]) ? AppendPlain(text) : AppendSpecial(text));
+    text.remove_prefix(kIsPlain[static_cast<unsigned char>(text[0])] ? AppendPlain(text)
+                                                                     : AppendSpecial(text));
     if (piece_.Size() >= kPieceSize) HandOver();
   }
 }

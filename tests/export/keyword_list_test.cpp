@@ -52,6 +52,19 @@ TEST(KeywordList, DoesNotTakeEndsFoundApartForAWord) {
   EXPECT_FALSE(Holds("ab", "ba"));
 }
 
+TEST(KeywordList, HoldsWordsOfOneAndOfTwoLettersWhereverTheyStand) {
+  for (const char* word : {"I", "m", ",", "If", "im"}) EXPECT_TRUE(Holds(kWords, word)) << word;
+  for (const char* word : {"X", "fI", "mI", "II", "mm"}) EXPECT_FALSE(Holds(kWords, word)) << word;
+  EXPECT_TRUE(Holds("I", "I"));
+  EXPECT_FALSE(Holds("I", "II"));
+}
+
+TEST(KeywordList, LooksAtTheMiddleOfAWordToo) {
+  EXPECT_FALSE(Holds("Thxen,Then", "Th_en"));
+  EXPECT_FALSE(Holds("abXcd", "abcd"));
+  EXPECT_EQ(Spelling("abXcd", "abcd"), "(none)");
+}
+
 TEST(KeywordList, AnswersTheSameWhenAskedAgain) {
   KeywordList keywords(kWords);
   for (int time = 1; time <= 3; ++time) {

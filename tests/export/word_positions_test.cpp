@@ -43,9 +43,28 @@ TEST(WordPositions, RemembersThatAWordIsNowhere) {
 
 TEST(WordPositions, TellsWordsApart) {
   WordPositions positions;
-  const std::string words[] = {"",          "a",        "A",        std::string("a\0", 2),
-                               "aa",        "abcdefgh", "abcdefgi", "abcdefgha",
-                               "abcdefghb", "habcdefg", "\xC3\xB6"};
+  const std::string words[] = {"",
+                               "a",
+                               "A",
+                               std::string("a\0", 2),
+                               "aa",
+                               "abcdefgh",
+                               "abcdefgi",
+                               "abcdefgha",
+                               "abcdefghb",
+                               "habcdefg",
+                               "\xC3\xB6",
+                               "ab",
+                               "ba",
+                               "aba",
+                               "aab",
+                               "abab",
+                               "abaab",
+                               "abcdefgabcdefg",
+                               "abcdefgabcdefgh",
+                               "abcdefghabcdefgh",
+                               "abcdefghabcdefghi",
+                               "abcdefghabcdefghj"};
   int next = 0;
   for (const std::string& word : words) {
     positions.Of(word, [&](std::string_view) { return next++; });

@@ -274,6 +274,20 @@ TEST_F(MemoryRichTextBoxTest, TellsTheLengthOfTheLineThatHoldsAPosition) {
   EXPECT_EQ(box.LineLength(-1), 2);
 }
 
+TEST_F(MemoryRichTextBoxTest, SharesTheFileThatItSavedUnread) {
+  MemoryRichTextBoxes boxes(files);
+  const auto writer = boxes.Create();
+  writer->SetText("one");
+  writer->SetSelLength(3);
+  const std::string richText = writer->SelRTF();
+  const auto saver = boxes.Create();
+  saver->SetTextRTF(richText);
+  saver->SaveFile("a.rtf", SaveAs::kRichText);
+  saver->SetText("two");
+  EXPECT_EQ(*files.TakeShared("a.rtf"), richText);
+  EXPECT_EQ(*files.TakeShared("a.rtf"), "");
+}
+
 TEST_F(MemoryRichTextBoxTest, GivesNoTextForALineThatIsNotThere) {
   box.SetText("a\r\n");
   EXPECT_EQ(LineOf(box, 0), "a");

@@ -100,6 +100,42 @@ TEST(ModuleText, JoinedHasCarriageReturnLineFeedBetweenItsLines) {
   EXPECT_EQ(ModuleText().Joined(), "");
 }
 
+TEST(ModuleText, JoinsAPartOfItsLines) {
+  const ModuleText text = ModuleText::FromText("a\r\nb\nc\r\n\r\nd");
+  EXPECT_EQ(text.Joined(1, 1), "a");
+  EXPECT_EQ(text.Joined(2, 4), "b\r\nc\r\n");
+  EXPECT_EQ(text.Joined(4, 4), "");
+  EXPECT_EQ(text.Joined(1, 5), "a\r\nb\r\nc\r\n\r\nd");
+}
+
+// Lines that stand behind one another in memory are joined at once; these only seem to.
+TEST(ModuleText, JoinsLinesThatWereRewrittenInTheirPlaces) {
+  ModuleText text = ModuleText::FromText("a\r\nb\r\nc\r\n");
+  text.Replace(1, "first!!");
+  text.Replace(2, "second");
+  text.Replace(1, "first");
+  EXPECT_EQ(text.Joined(), "first\r\nsecond\r\nc");
+}
+
+TEST(ModuleText, JoinsWhatIsLeftAroundEdits) {
+  ModuleText text = ModuleText::FromText("a\r\nb\r\nc\r\nd\r\ne\r\n");
+  text.Delete(2, 1);
+  EXPECT_EQ(text.Joined(), "a\r\nc\r\nd\r\ne");
+  text.Insert(3, "new\nlines");
+  EXPECT_EQ(text.Joined(), "a\r\nc\r\nnew\r\nlines\r\nd\r\ne");
+  text.Replace(2, "");
+  EXPECT_EQ(text.Joined(1, 3), "a\r\n\r\nnew");
+}
+
+TEST(ModuleText, HiddenLinesAreNotJoined) {
+  const auto original = std::make_shared<const std::string>("a\r\nHIDDEN\r\nb\r\n");
+  ModuleText text(original);
+  text.AppendOriginal(std::string_view(*original).substr(0, 1), LineEnd::kCrLf);
+  text.AppendHidden(0);
+  text.AppendOriginal(std::string_view(*original).substr(11, 1), LineEnd::kCrLf);
+  EXPECT_EQ(text.Joined(), "a\r\nb");
+}
+
 TEST(ModuleText, HiddenLinesStandBehindTheirVisibleLine) {
   const ModuleText text = WithHiddenLines();
   EXPECT_THAT(text.HiddenBehind(0), ElementsAre(0u));
