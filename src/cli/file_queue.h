@@ -38,8 +38,8 @@ class FileQueue {
   /// The system is asked for its processors only where there is work for them.
   std::size_t WorkersFor(std::optional<int> jobs) const {
     if (reports_.size() <= 1) return reports_.size();
-    const std::size_t wanted = jobs ? static_cast<std::size_t>(*jobs)
-                                    : std::max(1u, std::thread::hardware_concurrency());
+    const std::size_t wanted =
+        jobs ? static_cast<std::size_t>(*jobs) : std::max(1u, std::thread::hardware_concurrency());
     return std::min(wanted, reports_.size());
   }
 

@@ -23,7 +23,8 @@ class frmInfo : public ProgressForm, public Form {
   /// Draws the bar for current of total. The percentage is rounded up and a finished run stays one
   /// step below 100. A bar that shows that percentage already is left as it is.
   void UpdateProgressBar(int current, int total) override {
-    if (!drawn_.Holds(current, total)) [[unlikely]] RedrawBar(current, total);
+    if (!drawn_.Holds(current, total)) [[unlikely]]
+      RedrawBar(current, total);
   }
 
   void ResetProgressBar();

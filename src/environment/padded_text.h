@@ -42,11 +42,18 @@ class PaddedText {
 
   /// Appends the characters in front of the first one that is not wanted; returns their number.
   std::size_t AppendWhile(std::string_view text, const std::array<bool, 256>& wanted) {
+    const auto isWanted = [&](std::size_t at) {
+      return wanted[static_cast<unsigned char>(text[at])];
+    };
+    const auto areWanted = [&](std::size_t at) {
+      return isWanted(at) & isWanted(at + 1) & isWanted(at + 2) & isWanted(at + 3);
+    };
     char* const end = EndWithRoomFor(text.size());
     std::size_t size = 0;
-    for (; size < text.size() && wanted[static_cast<unsigned char>(text[size])]; ++size) {
-      end[size] = text[size];
+    for (; size + 4 <= text.size() && areWanted(size); size += 4) {
+      std::memcpy(end + size, text.data() + size, 4);
     }
+    for (; size < text.size() && isWanted(size); ++size) end[size] = text[size];
     size_ += size;
     return size;
   }

@@ -70,13 +70,15 @@ inline CodeColoring::Place CodeColoring::Taken(Place at) {
 }
 
 inline CodeColoring::Place CodeColoring::Behind(Place at) const {
-  if (isAscii_) [[likely]] return {at.character + 1, at.byte + 1};
+  if (isAscii_) [[likely]]
+    return {at.character + 1, at.byte + 1};
   const std::size_t size = Utf8Size(std::string_view(text_).substr(at.byte));
   return {at.character + 1, at.byte + std::max<std::size_t>(size, 1)};
 }
 
 inline void CodeColoring::AddToWord(Place at) {
-  if (lettersStart_ != kNoLetters) [[likely]] return;
+  if (lettersStart_ != kNoLetters) [[likely]]
+    return;
   lettersStart_ = at.byte;
   if (word_.empty()) wordStart_ = at.character;
 }

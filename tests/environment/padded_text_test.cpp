@@ -69,6 +69,16 @@ TEST(PaddedText, TakesAPieceLongerThanAllRoom) {
   EXPECT_EQ(text.View(), 'a' + piece);
 }
 
+TEST(PaddedText, StopsAtTheFirstCharacterThatItDoesNotLikeWhereverThatStands) {
+  for (std::size_t place = 0; place < 20; ++place) {
+    std::string piece(20, 'x');
+    piece[place] = '1';
+    PaddedText text;
+    EXPECT_EQ(text.AppendWhile(piece, Letters()), place);
+    EXPECT_EQ(text.View(), piece.substr(0, place));
+  }
+}
+
 TEST(PaddedText, AppendsAsLongAsItLikesTheCharacters) {
   PaddedText text;
   EXPECT_EQ(text.AppendWhile("abc1de", Letters()), 3u);
