@@ -76,9 +76,12 @@ std::size_t RtfWriter::ExpectedSize() const {
 
 void RtfWriter::NumberFontsAndColors() {
   colors_.NumberOf(PackedFormat::kAutomatic);
-  for (const FormatRun& run : Runs()) {
-    fonts_.NumberOf(run.format.font);
-    colors_.NumberOf(run.format.color);
+  const auto runs = Runs();
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    // Most runs stand between two of the same format.
+    if (i >= 2 && runs[i].format == runs[i - 2].format) continue;
+    fonts_.NumberOf(runs[i].format.font);
+    colors_.NumberOf(runs[i].format.color);
   }
 }
 
