@@ -100,7 +100,8 @@ bool IsWindowsHeader(std::string_view header) {
 std::vector<std::string> WindowsHeadersOutsideTheirRoom(const std::vector<Include>& includes) {
   std::vector<std::string> faults;
   for (const Include& include : includes) {
-    if (RoomOf(include.file) == "windows" || !IsWindowsHeader(include.target)) continue;
+    const bool isForWindows = Contains('/' + include.file, "/windows/");
+    if (isForWindows || !IsWindowsHeader(include.target)) continue;
     faults.push_back(Describe(include));
   }
   return faults;
@@ -242,6 +243,7 @@ TEST(LayeringRules, RefuseWindowsHeadersInAnyCase) {
   EXPECT_THAT(WindowsHeadersOutsideTheirRoom({{"core/a.cpp", "Windows.h", false},
                                               {"core/b.cpp", "commctrl.h", false},
                                               {"windows/c.cpp", "windows.h", false},
+                                              {"memory/windows/c.cpp", "windows.h", false},
                                               {"core/d.cpp", "vector", false}}),
               ElementsAre("core/a.cpp includes Windows.h", "core/b.cpp includes commctrl.h"));
 }

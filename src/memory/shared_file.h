@@ -3,6 +3,7 @@
 // what failed and why, without the file's name.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -30,7 +31,7 @@ class SharedFileLock {
   SharedFileLock& operator=(const SharedFileLock&) = delete;
 
  private:
-  int descriptor_ = -1;
+  std::intptr_t lock_ = -1;  // what the system calls the open lock file
 };
 
 }  // namespace brimwork

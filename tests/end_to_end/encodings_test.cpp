@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "end_to_end/workplace.h"
-#include "support/program.h"
+#include "support/posix/program.h"
 
 namespace brimwork {
 namespace encodings_test {

@@ -4,7 +4,7 @@
 
 #include "end_to_end/sources.h"
 #include "end_to_end/workplace.h"
-#include "support/program.h"
+#include "support/posix/program.h"
 
 namespace brimwork {
 namespace unknown_procedure_test {

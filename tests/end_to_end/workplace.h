@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/program.h"
+#include "support/posix/program.h"
 #include "support/temporary_folder.h"
 
 namespace brimwork {

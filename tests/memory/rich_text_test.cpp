@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/mman.h>
 
 #include <string>
 #include <vector>
@@ -62,19 +61,6 @@ TEST(RichTextText, HasAReplacementCharacterForEachByteThatIsNoUtf8) {
 }
 
 TEST(RichTextText, CountsCharactersAndBothOfALineEnd) { EXPECT_EQ(TextOf("aé日😀\r\n").Size(), 6); }
-
-TEST(RichTextText, OfMoreThanTwoGigabytesRaisesErrorSix) {
-  constexpr std::size_t kSize = RichText::kMostBytes + 1;
-  void* const pages =
-      mmap(nullptr, kSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-  if (pages == MAP_FAILED) GTEST_SKIP() << "the system gives no 2 GB of addresses";
-  const std::string_view huge(static_cast<const char*>(pages), kSize);
-  RichText content = TextOf("kept");
-  EXPECT_EQ(ErrorOf([&] { content.SetText(huge); }), error_number::kOverflow);
-  EXPECT_EQ(ErrorOf([&] { content.Replace({0, 0}, huge); }), error_number::kOverflow);
-  EXPECT_EQ(content.Text(), "kept");
-  munmap(pages, kSize);
-}
 
 TEST(RichTextFormat, StartsAsThatOfANewControl) {
   EXPECT_EQ(TextOf("a").FormatAt(0), (TextFormat{"MS Sans Serif", 16, std::nullopt}));

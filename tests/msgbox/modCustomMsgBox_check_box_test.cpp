@@ -31,7 +31,7 @@ struct CustomMsgBoxCheckBox : SpecialBoxFixture {
 
   const MemoryNativeWindows::NativeWindow& CheckBox() const { return Last().controls.back(); }
 
-  long Samples() const {
+  std::ptrdiff_t Samples() const {
     return std::ranges::count(CheckBox().messages, window_message::kGetButtonState,
                               &MemoryNativeWindows::SentMessage::message);
   }

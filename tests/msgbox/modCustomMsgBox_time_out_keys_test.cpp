@@ -37,7 +37,7 @@ struct CustomMsgBoxTimeOutKeys : SpecialBoxFixture {
         {.buttons = buttons, .timeOut = 1, .checkBoxText = kCheckBox, .buttonCount = count});
   }
 
-  long ForegroundCalls() const {
+  std::ptrdiff_t ForegroundCalls() const {
     return std::ranges::count(listed.Operations(), "DialogWindows.SetForegroundWindow");
   }
 

@@ -20,10 +20,14 @@ class ScopedVariable {
 
  private:
   void Set(const std::optional<std::string>& value) {
+#ifdef _WIN32
+    ::_putenv_s(name_, value.value_or("").c_str());  // there no variable is empty
+#else
     if (value)
       ::setenv(name_, value->c_str(), 1);
     else
       ::unsetenv(name_);
+#endif
   }
 
   const char* name_;

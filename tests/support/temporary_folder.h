@@ -1,10 +1,10 @@
 // A folder of a test's own, removed with everything in it when the test ends.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,9 +14,11 @@ namespace brimwork {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "brimwork-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
+    std::random_device random;
+    do {
+      path_ =
+          std::filesystem::temp_directory_path() / ("brimwork-test-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
   }
   ~TemporaryFolder() {
     std::error_code ignored;

@@ -17,7 +17,7 @@
 #include <thread>
 
 #include "memory/source_error.h"
-#include "support/refused_calls.h"
+#include "support/posix/refused_calls.h"
 #include "support/temporary_folder.h"
 
 namespace brimwork {

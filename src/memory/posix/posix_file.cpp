@@ -1,4 +1,4 @@
-#include "memory/posix_file.h"
+#include "memory/posix/posix_file.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "memory/posix_file.h"
+#include "memory/posix/posix_file.h"
 
 namespace brimwork::posix {
 

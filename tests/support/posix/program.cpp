@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/posix/program.h"
 
 #include <fcntl.h>
 #include <pty.h>

@@ -12,7 +12,7 @@
 
 #include "memory/disk_file.h"
 #include "memory/source_error.h"
-#include "support/refused_calls.h"
+#include "support/posix/refused_calls.h"
 #include "support/temporary_folder.h"
 
 namespace brimwork {

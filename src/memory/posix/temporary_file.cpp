@@ -1,4 +1,4 @@
-#include "memory/temporary_file.h"
+#include "memory/posix/temporary_file.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "support/refused_calls.h"
+#include "support/posix/refused_calls.h"
 
 #include <fcntl.h>
 #include <linux/audit.h>

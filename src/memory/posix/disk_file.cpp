@@ -9,9 +9,9 @@
 #include <memory>
 
 #include "memory/huge_pages.h"
-#include "memory/posix_file.h"
+#include "memory/posix/posix_file.h"
 #include "memory/source_error.h"
-#include "memory/temporary_file.h"
+#include "memory/posix/temporary_file.h"
 
 namespace brimwork {
 namespace {

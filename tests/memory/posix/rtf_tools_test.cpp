@@ -13,7 +13,7 @@
 #include "environment/utf8.h"
 #include "memory/rtf_reader.h"
 #include "memory/rtf_writer.h"
-#include "support/program.h"
+#include "support/posix/program.h"
 #include "support/temporary_folder.h"
 
 namespace brimwork {

@@ -125,16 +125,17 @@ void ReplaceSharedFile(const fs::path& path, std::string_view content) {
 
 SharedFileLock::SharedFileLock(const fs::path& path) {
   const std::string name = path.string() + ".lock";
-  descriptor_ = ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kForItsUserOnly);
-  if (descriptor_ < 0) Fail("cannot be locked: no lock file beside it");
-  while (::flock(descriptor_, LOCK_EX) != 0) {
+  const int descriptor = ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kForItsUserOnly);
+  if (descriptor < 0) Fail("cannot be locked: no lock file beside it");
+  lock_ = descriptor;
+  while (::flock(descriptor, LOCK_EX) != 0) {
     if (errno == EINTR) continue;
     const int error = errno;
-    ::close(descriptor_);
+    ::close(descriptor);
     Fail("cannot be locked", error);
   }
 }
 
-SharedFileLock::~SharedFileLock() { ::close(descriptor_); }
+SharedFileLock::~SharedFileLock() { ::close(static_cast<int>(lock_)); }
 
 }  // namespace brimwork

@@ -1,0 +1,144 @@
+#include "memory/windows/windows_file.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "environment/text.h"
+#include "memory/source_error.h"
+
+namespace brimwork::windows {
+namespace {
+
+std::pair<std::string, OpenFile> MakeTemporaryFile(const std::string& folder) {
+  const std::string own = folder + "\\.brimwork-" + std::to_string(GetCurrentProcessId()) + "-";
+  for (int attempt = 0;; ++attempt) {
+    std::string path = own + std::to_string(attempt);
+    OpenFile file(CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                              CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file.IsOpen()) return {std::move(path), std::move(file)};
+    // Another thread's, or left behind by another process of that number.
+    if (GetLastError() != ERROR_FILE_EXISTS) {
+      ThrowSystemError(folder, "cannot make a temporary file in this folder");
+    }
+  }
+}
+
+}  // namespace
+
+std::wstring Wide(std::string_view text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(),
+                                         static_cast<int>(wide.size()));
+  wide.resize(static_cast<std::size_t>(length));
+  return wide;
+}
+
+std::string Narrow(std::wstring_view text) {
+  constexpr std::size_t kMostBytesOfAUnit = 3;
+  std::string narrow(text.size() * kMostBytesOfAUnit, '\0');
+  const int size =
+      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), narrow.data(),
+                          static_cast<int>(narrow.size()), nullptr, nullptr);
+  narrow.resize(static_cast<std::size_t>(size));
+  return narrow;
+}
+
+std::string SystemWords(DWORD error) {
+  wchar_t words[512];
+  const DWORD length =
+      FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
+                     words, static_cast<DWORD>(std::size(words)), nullptr);
+  if (length == 0) return "error " + std::to_string(error);
+  return std::string(TrimRight(Narrow({words, length}), "\r\n. "));
+}
+
+void ThrowSystemError(const std::string& path, const std::string& call) {
+  throw SourceError(path, call + ": " + SystemWords(GetLastError()));
+}
+
+void OpenFile::Close() {
+  if (IsOpen()) CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE));
+}
+
+OpenFile OpenExisting(const std::string& path, DWORD access) {
+  constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  OpenFile file(CreateFileW(Wide(path).c_str(), access, kShared, nullptr, OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  if (!file.IsOpen()) ThrowSystemError(path, "open");
+  return file;
+}
+
+BY_HANDLE_FILE_INFORMATION InformationOf(const OpenFile& file, const std::string& path) {
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!GetFileInformationByHandle(file.Handle(), &information)) {
+    ThrowSystemError(path, "cannot look at the file");
+  }
+  return information;
+}
+
+FileSnapshot SnapshotOf(const BY_HANDLE_FILE_INFORMATION& information) {
+  constexpr std::int64_t kNanosecondsPerTick = 100;
+  const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
+  const FILETIME& modified = information.ftLastWriteTime;
+  return {information.dwVolumeSerialNumber,
+          joined(information.nFileIndexHigh, information.nFileIndexLow),
+          joined(information.nFileSizeHigh, information.nFileSizeLow),
+          static_cast<std::int64_t>(joined(modified.dwHighDateTime, modified.dwLowDateTime)) *
+              kNanosecondsPerTick};
+}
+
+void Write(const OpenFile& file, std::string_view bytes, const std::string& path) {
+  constexpr std::size_t kMostAtOnce = 16 * 1024 * 1024;
+  while (!bytes.empty()) {
+    DWORD count = 0;
+    const auto size = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
+    if (!WriteFile(file.Handle(), bytes.data(), size, &count, nullptr)) {
+      ThrowSystemError(path, "write");
+    }
+    bytes.remove_prefix(count);
+  }
+}
+
+void Flush(const OpenFile& file, const std::string& path) {
+  if (!FlushFileBuffers(file.Handle())) ThrowSystemError(path, "flush");
+}
+
+std::string FolderOf(const std::string& path) {
+  const auto separator = path.find_last_of("\\/:");
+  if (separator == std::string::npos) return ".";
+  const bool isDrive = path[separator] == ':';
+  return path.substr(0, separator + (isDrive ? 1 : 0)) + (isDrive ? "." : "");
+}
+
+TemporaryFile::TemporaryFile(const std::string& folder) : file_(INVALID_HANDLE_VALUE) {
+  std::tie(path_, file_) = MakeTemporaryFile(folder);
+}
+
+TemporaryFile::~TemporaryFile() {
+  file_.Close();
+  if (!path_.empty()) DeleteFileW(Wide(path_).c_str());
+}
+
+void TemporaryFile::Replace(const std::string& target) {
+  file_.Close();
+  if (!ReplaceFileW(Wide(target).c_str(), Wide(path_).c_str(), nullptr,
+                    REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
+    ThrowSystemError(target, "replace");
+  }
+  path_.clear();
+}
+
+bool TemporaryFile::MoveToFree(const std::string& target) {
+  file_.Close();
+  if (!MoveFileExW(Wide(path_).c_str(), Wide(target).c_str(), MOVEFILE_WRITE_THROUGH)) {
+    const DWORD error = GetLastError();
+    if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;
+    ThrowSystemError(target, "rename");
+  }
+  path_.clear();
+  return true;
+}
+
+}  // namespace brimwork::windows

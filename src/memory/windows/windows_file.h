@@ -1,0 +1,87 @@
+// Open files on Windows, for the few sources that read and write them.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "memory/disk_file.h"
+
+namespace brimwork::windows {
+
+/// A path in UTF-8 as the system's calls take it.
+std::wstring Wide(std::string_view text);
+std::string Narrow(std::wstring_view text);
+
+/// The system's words for an error of its calls, without the line end behind them.
+std::string SystemWords(DWORD error);
+
+/// Throws SourceError "path: call: the system's words" for the last error.
+[[noreturn]] void ThrowSystemError(const std::string& path, const std::string& call);
+
+class OpenFile {
+ public:
+  explicit OpenFile(HANDLE handle) : handle_(handle) {}
+  OpenFile(OpenFile&& other) noexcept : handle_(other.handle_) {
+    other.handle_ = INVALID_HANDLE_VALUE;
+  }
+  OpenFile& operator=(OpenFile&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~OpenFile() { Close(); }
+
+  HANDLE Handle() const { return handle_; }
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  void Close();
+
+ private:
+  HANDLE handle_;
+};
+
+/// Opens what is there; others may read, write and remove it meanwhile.
+OpenFile OpenExisting(const std::string& path, DWORD access);
+
+BY_HANDLE_FILE_INFORMATION InformationOf(const OpenFile& file, const std::string& path);
+FileSnapshot SnapshotOf(const BY_HANDLE_FILE_INFORMATION& information);
+
+/// Throws SourceError, naming path, when a byte cannot be written.
+void Write(const OpenFile& file, std::string_view bytes, const std::string& path);
+
+/// Waits until the file's bytes are on the disk.
+void Flush(const OpenFile& file, const std::string& path);
+
+/// The part of a path in front of its last separator, "." when there is none.
+std::string FolderOf(const std::string& path);
+
+/// A file that comes into being beside the one it will replace, and leaves nothing behind when it
+/// does not get that far.
+class TemporaryFile {
+ public:
+  /// With a name of its own in folder.
+  explicit TemporaryFile(const std::string& folder);
+  ~TemporaryFile();
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  const OpenFile& File() const { return file_; }
+  void Close() { file_.Close(); }
+  const std::string& Path() const { return path_; }
+
+  /// Replaces target, which is in the same folder, in one step. Its attributes stay.
+  void Replace(const std::string& target);
+
+  /// Gives it the name target; false, and target is as it was, when something has that name.
+  bool MoveToFree(const std::string& target);
+
+  /// Leaves the file where it is.
+  void Keep() { path_.clear(); }
+
+ private:
+  std::string path_;
+  OpenFile file_;
+};
+
+}  // namespace brimwork::windows
