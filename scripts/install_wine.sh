@@ -18,15 +18,16 @@ Install() {
 # Packages of both architectures have to be of one version. Where the index of the security suite
 # cannot be read for i386, only the main suite has them all, some of them older than what is here.
 InstallFromMainSuite() {
-  local work codename
+  local work codename mirror
   work=$(mktemp -d)
   # shellcheck disable=SC2064
   trap "rm -rf '$work'" EXIT
   codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
+  mirror=$(apt-get indextargets --format '$(CODENAME) $(REPO_URI)' 'Created-By: Packages' |
+    awk -v codename="$codename" '$1 == codename && !found++ { print $2 }')
   mkdir -p "$work/lists/partial"
   chmod -R 755 "$work"
-  echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]" \
-    "http://deb.debian.org/debian $codename main" >"$work/sources.list"
+  echo "deb $mirror $codename main" >"$work/sources.list"
   printf 'Package: *\nPin: release n=%s\nPin-Priority: 1001\n' "$codename" >"$work/preferences"
   local main=(-o Dir::Etc::SourceList="$work/sources.list" -o Dir::Etc::SourceParts=/dev/null
     -o Dir::Etc::Preferences="$work/preferences" -o Dir::Etc::PreferencesParts=/dev/null

@@ -10,8 +10,8 @@
 
 #include "memory/huge_pages.h"
 #include "memory/posix/posix_file.h"
-#include "memory/source_error.h"
 #include "memory/posix/temporary_file.h"
+#include "memory/source_error.h"
 
 namespace brimwork {
 namespace {
