@@ -4,11 +4,11 @@
 #include "support/known_encoding.h"
 
 namespace brimwork {
-namespace encodings_test {
+namespace known_encodings_test {
 
-TEST(Encodings, OfEveryKindAreKnown) {
+TEST(KnownEncodings, AreOfEveryKind) {
   for (const char* encoding : kRareEncodings) EXPECT_TRUE(IsKnownEncoding(encoding)) << encoding;
 }
 
-}  // namespace encodings_test
+}  // namespace known_encodings_test
 }  // namespace brimwork
