@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "memory/posix/held_signals.h"
+
 namespace brimwork::posix {
 namespace {
 
@@ -63,9 +65,12 @@ TemporaryFile TemporaryFile::Named(const std::string& folder, mode_t mode) {
 }
 
 void TemporaryFile::MoveTo(const std::string& target) {
-  if (path_.empty()) TakeName();
-  if (rename(path_.c_str(), target.c_str()) != 0) ThrowSystemError(target, "rename");
-  path_.clear();
+  {
+    const HeldSignals held;  // a process that ended in between would leave the name behind
+    if (path_.empty()) TakeName();
+    if (rename(path_.c_str(), target.c_str()) != 0) ThrowSystemError(target, "rename");
+    path_.clear();
+  }
   FlushFolder(folder_);
 }
 
