@@ -1,0 +1,79 @@
+// The stand-in environment as plain data: the projects that are open, with the files that they came
+// from, and the windows, command bars and code panes around them. It knows of no screen and no COM.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bench/model/work_project.h"
+#include "memory/memory_clipboard.h"
+#include "memory/memory_keyboard.h"
+#include "memory/memory_vbe.h"
+#include "memory/usual_command_bars.h"
+#include "memory/usual_windows.h"
+
+namespace brimwork::bench {
+
+class Workbench {
+ public:
+  /// Starts with the usual windows and command bars and no project.
+  Workbench();
+  Workbench(const Workbench&) = delete;
+  Workbench& operator=(const Workbench&) = delete;
+
+  /// Opens a project (.vbp), each project of a group (.vbg) or a single source file in a project of
+  /// its own, in the place of what is open, and makes it the first recent project. Throws
+  /// SourceError, naming file and line, for what cannot be opened; what was open stays open then.
+  void Open(const std::filesystem::path& path);
+
+  /// Writes every component that was changed, each file in one step, with every byte that the
+  /// editor does not show as it was. Throws SourceError for the first that cannot be written; those
+  /// behind it stay changed.
+  void SaveAll();
+
+  bool HasUnsavedChanges() const;
+
+  const std::vector<std::shared_ptr<WorkProject>>& Projects() const { return projects_; }
+
+  /// Null while none is open.
+  std::shared_ptr<WorkProject> ActiveProject() const;
+  void SetActiveProject(const std::shared_ptr<WorkProject>& project);
+
+  /// The component that the user works on; null for none.
+  std::shared_ptr<WorkComponent> SelectedComponent() const;
+  void Select(const std::shared_ptr<WorkComponent>& component);
+
+  /// The component of an open project with that module; null for none.
+  std::shared_ptr<WorkComponent> ComponentOf(const CodeModule& module) const;
+  std::shared_ptr<WorkProject> ProjectOf(const WorkComponent& component) const;
+
+  /// The component's code window's pane: the one that is open, else a new one, whose window is
+  /// opened and gets the focus. Null for a component without code.
+  std::shared_ptr<MemoryCodePane> PaneOf(const std::shared_ptr<WorkComponent>& component);
+
+  /// The component's designer: the one that is open, else a new one, which gets the focus. Null for
+  /// a component that has none.
+  std::shared_ptr<MemoryWindow> DesignerOf(const std::shared_ptr<WorkComponent>& component);
+
+  /// The component whose designer the window is; null for another window.
+  std::shared_ptr<WorkComponent> ComponentOfDesigner(const MemoryWindow& window) const;
+
+  /// Paths, the latest first; what File's entries from 15 on show.
+  const std::vector<std::string>& RecentProjects() const { return recent_; }
+  void SetRecentProjects(std::vector<std::string> paths);
+
+  MemoryClipboard clipboard;
+  MemoryKeyboard keyboard{clipboard};
+  MemoryVbe vbe{keyboard, clipboard};
+  UsualWindows windows;
+  UsualCommandBars bars;
+
+ private:
+  std::vector<std::shared_ptr<WorkProject>> projects_;
+  std::vector<std::string> recent_;
+};
+
+}  // namespace brimwork::bench
