@@ -1,5 +1,6 @@
 #include "memory/module_preamble.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -53,6 +54,18 @@ Part PartOf(std::string_view line) {
   return Part::kCode;
 }
 
+struct LaidOutObject {
+  std::string_view objectClass;
+  std::string_view name;  // "" where none is given
+};
+
+/// What `Begin VB.Form frmDesk` says.
+LaidOutObject ObjectOn(std::string_view beginLine) {
+  const std::string_view object = BehindWord(TrimBlanksAndTabs(beginLine), "BEGIN").value_or("");
+  const auto classEnd = std::min(object.find_first_of(" \t"), object.size());
+  return {object.substr(0, classEnd), TrimBlanksAndTabs(object.substr(classEnd))};
+}
+
 class PreambleReader {
  public:
   PreambleReader(std::string_view text, const std::string& path) : rest_(text), path_(path) {}
@@ -83,7 +96,10 @@ class PreambleReader {
     } else if (part != Part::kBlank && hasAttributes_) {
       return false;
     }
-    if (part == Part::kBegin) SkipBlock();
+    if (part == Part::kBegin) {
+      if (preamble_.objectClass.empty()) preamble_.objectClass = ObjectOn(line).objectClass;
+      SkipBlock();
+    }
     lastPart_ = part;
     return true;
   }
@@ -119,10 +135,78 @@ class PreambleReader {
   bool hasAttributes_ = false;
 };
 
+/// Copies a preamble and puts the new name in its places.
+class PreambleRenamer {
+ public:
+  PreambleRenamer(std::string_view preamble, std::string_view oldName, std::string_view newName)
+      : rest_(preamble), oldName_(oldName), newName_(newName) {}
+
+  std::string Rename() {
+    renamed_.assign(TakeMark());
+    while (!rest_.empty()) AddLine();
+    if (!isNamed_) AddAttribute();
+    return std::move(renamed_);
+  }
+
+ private:
+  std::string_view TakeMark() {
+    const std::string_view mark =
+        rest_.substr(0, rest_.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
+    rest_.remove_prefix(mark.size());
+    return mark;
+  }
+
+  void AddLine() {
+    const char* const start = rest_.data();
+    const std::string_view line = TakeLine(rest_).text;
+    const std::string_view whole(start, static_cast<std::size_t>(rest_.data() - start));
+    if (whole.size() > line.size()) lineEnd_ = whole.substr(line.size());
+    const std::string_view name = NamePlaceOn(line);
+    if (name.data() == nullptr) {
+      renamed_.append(whole);
+      return;
+    }
+    const auto before = static_cast<std::size_t>(name.data() - start);
+    renamed_.append(whole.substr(0, before)).append(newName_);
+    renamed_.append(whole.substr(before + name.size()));
+  }
+
+  /// Where the line names the module, a null view when it does not.
+  std::string_view NamePlaceOn(std::string_view line) {
+    if (!isNamed_ && !oldName_.empty() && ModuleNameIn(line) == oldName_) {
+      isNamed_ = true;
+      return line.substr(line.find('"') + 1, oldName_.size());
+    }
+    if (isLaidOut_ || !OpensBlock(TrimBlanksAndTabs(line))) return {};
+    isLaidOut_ = true;
+    const std::string_view object = ObjectOn(line).name;
+    return object == oldName_ && !object.empty() ? object : std::string_view();
+  }
+
+  void AddAttribute() {
+    if (!renamed_.empty() && !renamed_.ends_with('\n') && renamed_ != kByteOrderMark)
+      renamed_ += lineEnd_;
+    renamed_.append("Attribute VB_Name = \"").append(newName_).append("\"").append(lineEnd_);
+  }
+
+  std::string_view rest_;
+  std::string_view oldName_;
+  std::string_view newName_;
+  std::string_view lineEnd_ = "\r\n";
+  std::string renamed_;
+  bool isNamed_ = false;
+  bool isLaidOut_ = false;
+};
+
 }  // namespace
 
 ModulePreamble ReadPreamble(std::string_view text, const std::string& path) {
   return PreambleReader(text, path).Read();
+}
+
+std::string WithModuleName(std::string_view text, const ModulePreamble& preamble,
+                           std::string_view name) {
+  return PreambleRenamer(text.substr(0, preamble.size), preamble.moduleName, name).Rename();
 }
 
 }  // namespace brimwork

@@ -25,6 +25,19 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
   return file;
 }
 
+void SourceFile::SetModuleName(std::string_view name) {
+  const std::size_t oldSize = layout_.preamble.size;
+  std::string text = WithModuleName(*text_, layout_.preamble, name);
+  layout_.preamble = ReadPreamble(text, path_);
+  text.append(*text_, oldSize);
+  for (HiddenAttribute& hidden : layout_.hidden) {
+    hidden.offset = hidden.offset - oldSize + layout_.preamble.size;
+  }
+  text_ = std::make_shared<const std::string>(std::move(text));
+  readAscii_ = FindNonAscii(*text_, 0) == text_->size();
+  moduleName_ = name;
+}
+
 void SourceFile::RequireEncodable(const ModuleText& text) const {
   if (codec_->IsAsciiCompatible() && readAscii_ && text.StoredAsciiOnly()) return;
   Compose(text, [](std::string_view) {});

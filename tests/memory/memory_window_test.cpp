@@ -121,7 +121,7 @@ TEST_F(MemoryWindowTest, ClosingAnotherCodeWindowLeavesTheFocusWhereItIs) {
 
 TEST_F(MemoryWindowTest, AClosedWindowTakesNoFocusAndClosesOnlyOnce) {
   int removals = 0;
-  windows.OnRemove = [&](MemoryWindow&) { ++removals; };
+  windows.OnRemove([&](MemoryWindow&) { ++removals; });
   locals->SetFocus();
   code->Close();
   code->Close();
@@ -132,8 +132,8 @@ TEST_F(MemoryWindowTest, AClosedWindowTakesNoFocusAndClosesOnlyOnce) {
 
 TEST_F(MemoryWindowTest, TellsWhichWindowGotTheFocusAndWhichGoesAway) {
   std::vector<std::string> told;
-  windows.OnActivate = [&](MemoryWindow& window) { told.push_back("active " + window.Caption()); };
-  windows.OnRemove = [&](MemoryWindow& window) { told.push_back("gone " + window.Caption()); };
+  windows.OnActivate([&](MemoryWindow& window) { told.push_back("active " + window.Caption()); });
+  windows.OnRemove([&](MemoryWindow& window) { told.push_back("gone " + window.Caption()); });
   immediate->SetFocus();
   code->Close();
   locals->Close();

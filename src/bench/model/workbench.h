@@ -2,6 +2,7 @@
 // from, and the windows, command bars and code panes around them. It knows of no screen and no COM.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -39,15 +40,17 @@ class Workbench {
   const std::vector<std::shared_ptr<WorkProject>>& Projects() const { return projects_; }
 
   /// Null while none is open.
-  std::shared_ptr<WorkProject> ActiveProject() const;
+  std::shared_ptr<WorkProject> ActiveProject() const { return activeProject_; }
   void SetActiveProject(const std::shared_ptr<WorkProject>& project);
 
   /// The component that the user works on; null for none.
-  std::shared_ptr<WorkComponent> SelectedComponent() const;
+  std::shared_ptr<WorkComponent> SelectedComponent() const { return selected_; }
+  /// Makes its project the active one.
   void Select(const std::shared_ptr<WorkComponent>& component);
 
   /// The component of an open project with that module; null for none.
   std::shared_ptr<WorkComponent> ComponentOf(const CodeModule& module) const;
+  /// Null for a component of none.
   std::shared_ptr<WorkProject> ProjectOf(const WorkComponent& component) const;
 
   /// The component's code window's pane: the one that is open, else a new one, whose window is
@@ -58,6 +61,10 @@ class Workbench {
   /// a component that has none.
   std::shared_ptr<MemoryWindow> DesignerOf(const std::shared_ptr<WorkComponent>& component);
 
+  /// The same without opening anything: null while none is open.
+  std::shared_ptr<MemoryCodePane> OpenPaneOf(const WorkComponent& component) const;
+  std::shared_ptr<MemoryWindow> OpenDesignerOf(const WorkComponent& component) const;
+
   /// The component whose designer the window is; null for another window.
   std::shared_ptr<WorkComponent> ComponentOfDesigner(const MemoryWindow& window) const;
 
@@ -65,15 +72,36 @@ class Workbench {
   const std::vector<std::string>& RecentProjects() const { return recent_; }
   void SetRecentProjects(std::vector<std::string> paths);
 
+  /// Goes up with each change of what the project window shows: projects, components, names, what
+  /// is active and selected.
+  std::uint64_t Revision() const { return revision_; }
+
   MemoryClipboard clipboard;
   MemoryKeyboard keyboard{clipboard};
   MemoryVbe vbe{keyboard, clipboard};
   UsualWindows windows;
-  UsualCommandBars bars;
+  UsualCommandBars& bars = windows.bars;
 
  private:
+  /// A designer that was opened; it may have been closed since.
+  struct Designer {
+    std::weak_ptr<MemoryWindow> window;
+    std::shared_ptr<WorkComponent> component;
+  };
+
+  void Adopt(std::vector<std::shared_ptr<WorkProject>> projects);
+  void CloseWindowsOf(const WorkComponent& component);
+  void NoteActivation(MemoryWindow& window);
+  void NoteRemoval(const MemoryWindow& window);
+  void NoteComponentRemoved(const WorkComponent& component);
+  void ShowCaptions();
+
   std::vector<std::shared_ptr<WorkProject>> projects_;
+  std::shared_ptr<WorkProject> activeProject_;
+  std::shared_ptr<WorkComponent> selected_;
+  std::vector<Designer> designers_;
   std::vector<std::string> recent_;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace brimwork::bench
