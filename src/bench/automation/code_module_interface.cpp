@@ -2,11 +2,13 @@
 #include <algorithm>
 #include <string>
 
+#include "bench/automation/from_disk.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
 #include "bench/automation/module_search.h"
+#include "bench/model/component_file.h"
 #include "environment/run_time_error.h"
-#include "memory/disk_file.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork::bench {
 namespace {
@@ -59,7 +61,9 @@ Variant AddFromString(Call& call) {
 }
 
 Variant AddFromFile(Call& call) {
-  Add(Self(call), TextOfSourceFile(call.Text(0)));
+  const std::string path = call.Text(0);
+  Add(Self(call),
+      FromDisk([&] { return ComponentFile::Read(PathOf(path)).Source().TakeText().Joined(); }));
   return Variant();
 }
 

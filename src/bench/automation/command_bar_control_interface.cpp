@@ -274,12 +274,12 @@ constexpr Member kPopupMembers[] = {
 }  // namespace
 
 constinit const InterfaceTable kCommandBarControls{"CommandBarControls", iid::kCommandBarControls,
-                                              kControlsMembers};
+                                                   kControlsMembers};
 constinit const InterfaceTable kCommandBarControl{"CommandBarControl", iid::kCommandBarControl,
-                                             kControlMembers};
+                                                  kControlMembers};
 constinit const InterfaceTable kCommandBarButton{"CommandBarButton", iid::kCommandBarButton,
-                                            kButtonMembers, &kCommandBarControl};
-constinit const InterfaceTable kCommandBarPopup{"CommandBarPopup", iid::kCommandBarPopup, kPopupMembers,
-                                           &kCommandBarControl};
+                                                 kButtonMembers, &kCommandBarControl};
+constinit const InterfaceTable kCommandBarPopup{"CommandBarPopup", iid::kCommandBarPopup,
+                                                kPopupMembers, &kCommandBarControl};
 
 }  // namespace brimwork::bench

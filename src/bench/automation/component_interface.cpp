@@ -1,9 +1,11 @@
 // The components of a project in the object model.
 
 #include "bench/automation/collection.h"
+#include "bench/automation/from_disk.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
 #include "environment/text.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork::bench {
 namespace {
@@ -29,7 +31,7 @@ Variant Add(Call& call) {
 }
 
 Variant Remove(Call& call) {
-  WorkbenchOf(call).Remove(ArgumentOf<WorkComponent>(call, 0, kVbComponent));
+  Project(call).Remove(*ArgumentOf<WorkComponent>(call, 0, kVbComponent));
   return Variant();
 }
 
@@ -41,6 +43,11 @@ Variant SetName(Call& call) {
   return Variant();
 }
 Variant Type(Call& call) { return Variant(Self(call).Type()); }
+Variant SaveAs(Call& call) {
+  const std::string path = call.Text(0);
+  FromDisk([&] { Self(call).SaveAs(PathOf(path)); });
+  return Variant();
+}
 Variant IsDirty(Call& call) { return Variant(Self(call).IsDirty()); }
 
 Variant FileNames(Call& call) {
@@ -54,7 +61,7 @@ Variant FileCount(Call& call) {
 Variant ModuleOfComponent(Call& call) { return CodeModuleOf(call, call.Shared<WorkComponent>()); }
 
 Variant HasOpenDesigner(Call& call) {
-  return Variant(WorkbenchOf(call).HasOpenDesigner(Self(call)));
+  return Variant(WorkbenchOf(call).OpenDesignerOf(Self(call)) != nullptr);
 }
 Variant DesignerWindow(Call& call) {
   return ObjectOf(call, WorkbenchOf(call).DesignerOf(call.Shared<WorkComponent>()));
@@ -94,7 +101,7 @@ constexpr Member kVbComponentsMembers[] = {
 constexpr Member kVbComponentMembers[] = {
     Get(L"IsDirty", 0xA, IsDirty),
     Get(L"FileNames", 0xB, FileNames, Parameters(L"index")),
-    Method(L"SaveAs", 0xC, NotOffered, Parameters(L"FileName")),
+    Method(L"SaveAs", 0xC, SaveAs, Parameters(L"FileName")),
     Get(L"FileCount", 0xD, FileCount),
     Get(L"IconState", 0xE, NotOffered),
     Method(L"InsertFile", 0x2E, NotOffered, Parameters(L"FileName")),
@@ -118,7 +125,8 @@ constexpr Member kVbComponentMembers[] = {
 
 }  // namespace
 
-constinit const InterfaceTable kVbComponents{"VBComponents", iid::kVbComponents, kVbComponentsMembers};
+constinit const InterfaceTable kVbComponents{"VBComponents", iid::kVbComponents,
+                                             kVbComponentsMembers};
 constinit const InterfaceTable kVbComponent{"VBComponent", iid::kVbComponent, kVbComponentMembers};
 
 }  // namespace brimwork::bench

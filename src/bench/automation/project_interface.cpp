@@ -1,9 +1,11 @@
 // The projects of the object model.
 
 #include "bench/automation/collection.h"
+#include "bench/automation/from_disk.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
 #include "environment/text.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork::bench {
 namespace {
@@ -26,6 +28,20 @@ Variant FileNameOfGroup(Call&) { return Variant(""); }
 Variant StartProject(Call& call) {
   const auto& projects = WorkbenchOf(call).Projects();
   return ObjectOf(call, projects.empty() ? nullptr : projects.front());
+}
+
+// A project that is opened alone takes the place of those that are open.
+Variant AddFromFile(Call& call) {
+  const std::filesystem::path path = PathOf(call.Text(0));
+  Workbench& workbench = WorkbenchOf(call);
+  FromDisk([&] {
+    if (call.BoolOr(1, false)) {
+      workbench.Open(path);
+    } else {
+      workbench.OpenBeside(path);
+    }
+  });
+  return VbProjectsOf(call);
 }
 
 WorkProject& Self(Call& call) { return call.The<WorkProject>(); }
@@ -63,7 +79,7 @@ constexpr Member kVbProjectsMembers[] = {
     Get(L"VBE", 0x14, VbeOf),
     Method(L"Add", 0x80, NotOffered, Parameters(L"Type", L"?Exclusive", L"?Open")),
     Method(L"AddFromTemplate", 0x81, NotOffered, Parameters(L"Path", L"?Exclusive")),
-    Method(L"AddFromFile", 0x82, NotOffered, Parameters(L"Path", L"?Exclusive")),
+    Method(L"AddFromFile", 0x82, AddFromFile, Parameters(L"Path", L"?Exclusive")),
     Method(L"Remove", 0x83, NotOffered, Parameters(L"lpc")),
     Get(L"StartProject", 0x84, StartProject),
     Method(L"FileName", 0x85, FileNameOfGroup),
