@@ -25,7 +25,8 @@ class ClickEvents final : public IConnectionPointContainer,
   ClickEvents(std::shared_ptr<Session> session, MemoryCommandBarControl& control)
       : CountedObject(session, "CommandBarEvents"), point_(*this) {
     binding_ = session->TheWorkbench().vbe.commandBars.EventsOf(
-        control, [this](CommandBarControl& clicked) { Tell(clicked); });
+        control,
+        [this](CommandBarControl& clicked, ClickAnswer& answer) { Tell(clicked, answer); });
     ending_ = session->OnEnd([this] { Fall(); });
   }
 
@@ -123,12 +124,12 @@ class ClickEvents final : public IConnectionPointContainer,
     return nullptr;
   }
 
-  void Tell(CommandBarControl& clicked) {
+  void Tell(CommandBarControl& clicked, ClickAnswer& answer) {
     const win32::ComPointer<IConnectionPointContainer> staysWhileItTells(this);
     const auto control = static_cast<MemoryCommandBarControl&>(clicked).shared_from_this();
     const win32::Variant object = TheSession().ObjectFor(
         control->Entries() == nullptr ? kCommandBarButton : kCommandBarPopup, control);
-    sinks_.Click(object);
+    sinks_.Click(object, answer);
   }
 
   void Fall() {

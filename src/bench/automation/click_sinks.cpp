@@ -11,9 +11,11 @@ namespace {
 
 constexpr DISPID kClick = 1;
 
-void CallClick(IDispatch& sink, const win32::Variant& control) {
-  VARIANT_BOOL handled = VARIANT_FALSE;
-  VARIANT_BOOL cancelDefault = VARIANT_FALSE;
+VARIANT_BOOL TruthOf(bool truth) { return truth ? VARIANT_TRUE : VARIANT_FALSE; }
+
+void CallClick(IDispatch& sink, const win32::Variant& control, ClickAnswer& answer) {
+  VARIANT_BOOL handled = TruthOf(answer.isHandled);
+  VARIANT_BOOL cancelDefault = TruthOf(answer.cancelsDefault);
   VARIANTARG arguments[3];  // last to first
   for (VARIANTARG& argument : arguments) VariantInit(&argument);
   arguments[0].vt = VT_BYREF | VT_BOOL;
@@ -44,10 +46,10 @@ HRESULT ClickSinks::Remove(DWORD cookie) {
   return sinks_.erase(cookie) == 0 ? CONNECT_E_NOCONNECTION : S_OK;
 }
 
-void ClickSinks::Click(const win32::Variant& control) const {
+void ClickSinks::Click(const win32::Variant& control, ClickAnswer& answer) const {
   const auto present = sinks_;  // sinks come and go in handlers
   for (const auto& [cookie, sink] : present) {
-    if (sinks_.contains(cookie)) CallClick(*sink, control);
+    if (sinks_.contains(cookie)) CallClick(*sink, control, answer);
   }
 }
 

@@ -9,6 +9,7 @@
 #include <map>
 #include <vector>
 
+#include "memory/memory_command_bars.h"
 #include "win32/variant.h"
 
 namespace brimwork::bench {
@@ -20,8 +21,9 @@ class ClickSinks {
   HRESULT Remove(DWORD cookie);
   void RemoveAll() { sinks_.clear(); }
 
-  /// Calls Click of each sink; one that fails keeps no other from its call.
-  void Click(const win32::Variant& control) const;
+  /// Calls Click of each sink; one that fails keeps no other from its call. answer: what they say
+  /// about the command.
+  void Click(const win32::Variant& control, ClickAnswer& answer) const;
 
   struct Connection {
     win32::ComPointer<IUnknown> sink;

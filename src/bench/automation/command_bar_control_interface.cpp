@@ -24,18 +24,13 @@ Variant Item(Call& call) {
 Variant CountOfControls(Call& call) { return Variant(Controls(call).Count()); }
 Variant EnumerateControls(Call& call) { return EnumeratorOf(call, Controls(call).All()); }
 
-std::shared_ptr<MemoryCommandBarControl> AddTo(MemoryCommandBarControls& controls,
-                                               const NewControl& control) {
-  return std::static_pointer_cast<MemoryCommandBarControl>(controls.Add(control));
-}
-
 Variant Add(Call& call) {
   NewControl control;
   control.type = static_cast<int>(call.LongOr(0, control_type::kButton));
   control.id = static_cast<int>(call.LongOr(1, control_id::kCustom));
   control.before = static_cast<int>(call.LongOr(3, 0));
   control.isTemporary = call.BoolOr(4, false);
-  const auto added = AddTo(Controls(call), control);
+  const auto added = std::static_pointer_cast<MemoryCommandBarControl>(Controls(call).Add(control));
   if (call.Has(2)) {
     ControlDetails details = added->Details();
     details.parameter = call.Text(2);
@@ -44,12 +39,22 @@ Variant Add(Call& call) {
   return ObjectOf(call, added);
 }
 
-/// The bar or popup that shows these controls; null when they are nowhere any more.
+/// The bar itself, or the bar of a popup on it, whose controls these are; null when it is neither.
+std::shared_ptr<MemoryCommandBar> BarOf(const std::shared_ptr<MemoryCommandBar>& bar,
+                                        const MemoryCommandBarControls& controls) {
+  if (bar->Entries().get() == &controls) return bar;
+  for (const auto& control : bar->Entries()->All()) {
+    if (control->Menu() == nullptr) continue;
+    if (auto found = BarOf(control->Menu(), controls)) return found;
+  }
+  return nullptr;
+}
+
 Variant OwnerOf(Call& call, const MemoryCommandBarControls& controls) {
   for (const auto& bar : WorkbenchOf(call).vbe.commandBars.All()) {
-    if (bar->Entries().get() == &controls) return ObjectOf(call, bar);
+    if (const auto found = BarOf(bar, controls)) return ObjectOf(call, found);
   }
-  return ObjectOf(call, WorkbenchOf(call).vbe.commandBars.PopupOf(controls));
+  return ObjectOf(call, std::shared_ptr<MemoryCommandBar>());
 }
 Variant ParentOfControls(Call& call) { return OwnerOf(call, Controls(call)); }
 
@@ -64,7 +69,6 @@ Variant Detail(Call& call) {
 
 template <auto field>
 void Change(Call& call, decltype(ControlDetails{}.*field) value) {
-  Self(call).Tag();  // raises the error of a control that was deleted
   ControlDetails details = Self(call).Details();
   details.*field = std::move(value);
   Self(call).SetDetails(std::move(details));
@@ -106,7 +110,7 @@ Variant SetBeginGroup(Call& call) {
   Self(call).SetBeginGroup(call.Bool(0));
   return Variant();
 }
-Variant BuiltIn(Call& call) { return Variant(Self(call).Id() != control_id::kCustom); }
+Variant BuiltIn(Call& call) { return Variant(Self(call).IsBuiltIn()); }
 
 Variant Execute(Call& call) {
   Self(call).Execute();
@@ -118,10 +122,21 @@ Variant Delete(Call& call) {
   return Variant();
 }
 
+/// A caption as a tool tip shows it: without the marks of its access key and of a dialog.
+std::string Plain(std::string_view caption) {
+  std::string plain;
+  for (std::size_t at = 0; at < caption.size(); ++at) {
+    if (caption[at] == '&' && ++at == caption.size()) break;
+    plain += caption[at];
+  }
+  if (plain.ends_with("...")) plain.resize(plain.size() - 3);
+  return plain;
+}
+
 // A tool tip that was not given is the caption.
 Variant TooltipText(Call& call) {
-  const std::string& text = Self(call).Details().tooltipText;
-  return Variant(text.empty() ? WithoutAccessKeys(Self(call).Caption()) : text);
+  const std::string& text = Self(call).Details().toolTip;
+  return Variant(text.empty() ? Plain(Self(call).Caption()) : text);
 }
 
 Bounds BoundsOf(Call& call) { return SurfaceOf(call).BoundsOf(Self(call)); }
@@ -130,40 +145,27 @@ Variant Top(Call& call) { return Variant(BoundsOf(call).top); }
 Variant Width(Call& call) { return Variant(BoundsOf(call).width); }
 Variant Height(Call& call) { return Variant(BoundsOf(call).height); }
 
-Variant Parent(Call& call) { return OwnerOf(call, Self(call).Neighbours()); }
-
-/// Where Copy and Move put a control: the controls of the bar that is named, else its own; the
-/// place in front of which it goes.
-struct Place {
-  std::shared_ptr<MemoryCommandBarControls> controls;
-  int before;
-};
-
-Place PlaceOf(Call& call) {
-  if (!call.Has(0)) return {Self(call).SharedNeighbours(), static_cast<int>(call.LongOr(1, 0))};
-  const auto bar = ArgumentOf<MemoryCommandBar>(call, 0, kCommandBar);
-  return {bar->Entries(), static_cast<int>(call.LongOr(1, 0))};
+Variant Parent(Call& call) {
+  Self(call).Index();  // raises the error of a control that was deleted
+  return OwnerOf(call, *Self(call).Neighbours());
 }
 
-std::shared_ptr<MemoryCommandBarControl> CopyTo(Call& call) {
-  const Place place = PlaceOf(call);
-  MemoryCommandBarControl& self = Self(call);
-  if (self.Entries() != nullptr) NotOffered(call);
-  const auto copy =
-      AddTo(*place.controls, {self.Type(), self.Id(), place.before, self.IsTemporary()});
-  copy->SetCaption(self.Caption());
-  copy->SetTag(self.Tag());
-  copy->SetStyle(self.Style());
-  copy->SetDetails(self.Details());
-  return copy;
+/// The bar that Copy and Move name, else the control's own.
+MemoryCommandBarControls& GoalOf(Call& call) {
+  Self(call).Index();  // raises the error of a control that was deleted
+  if (!call.Has(0)) return *Self(call).Neighbours();
+  return *ArgumentOf<MemoryCommandBar>(call, 0, kCommandBar)->Entries();
 }
 
-Variant Copy(Call& call) { return ObjectOf(call, CopyTo(call)); }
+Variant Copy(Call& call) {
+  const int before = static_cast<int>(call.LongOr(1, 0));
+  return ObjectOf(call, GoalOf(call).AddCopyOf(Self(call), before));
+}
 
 Variant Move(Call& call) {
-  const auto moved = CopyTo(call);
-  Self(call).Delete();
-  return ObjectOf(call, moved);
+  const auto& self = call.Shared<MemoryCommandBarControl>();
+  GoalOf(call).TakeOver(self, static_cast<int>(call.LongOr(1, 0)));
+  return ObjectOf(call, self);
 }
 
 // A button.
@@ -187,7 +189,7 @@ Variant CopyFace(Call& call) {
 
 Variant BuiltInFace(Call& call) { return Variant(Self(call).Face().empty()); }
 Variant SetBuiltInFace(Call& call) {
-  if (call.Bool(0)) Self(call).DropFace();
+  if (call.Bool(0)) Self(call).ResetFace();
   return Variant();
 }
 
@@ -198,11 +200,8 @@ Variant EntriesOf(Call& call) {
 }
 
 Variant BarOfPopup(Call& call) {
-  const auto entries = Self(call).Controls();
-  for (const auto& bar : WorkbenchOf(call).vbe.commandBars.All()) {
-    if (bar->Entries() == entries) return ObjectOf(call, bar);
-  }
-  return NotOffered(call);
+  Self(call).Controls();  // raises the error of a popup that was deleted
+  return ObjectOf(call, Self(call).Menu());
 }
 
 constexpr Member kControlsMembers[] = {
@@ -244,7 +243,7 @@ constexpr Member kControlMembers[] = {
     Method(L"Reset", 0x60040021, NotOffered),
     Method(L"SetFocus", 0x60040022, NotOffered),
     GetPut(L"Tag", 0x60040023, Tag, SetTag),
-    GetPut(L"TooltipText", 0x60040025, TooltipText, SetText<&ControlDetails::tooltipText>),
+    GetPut(L"TooltipText", 0x60040025, TooltipText, SetText<&ControlDetails::toolTip>),
     Get(L"Top", 0x60040027, Top),
     Get(L"Type", 0x60040028, Type),
     GetPut(L"Visible", 0x60040029, Detail<&ControlDetails::visible>,

@@ -1,6 +1,5 @@
 // The collection of all command bars, and the bars.
 #include "bench/automation/collection.h"
-#include "bench/automation/control_search.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
 #include "environment/text.h"
@@ -20,15 +19,9 @@ Variant Item(Call& call) {
 Variant CountOfBars(Call& call) { return CountOf(All(call).All()); }
 Variant EnumerateBars(Call& call) { return EnumeratorOf(call, All(call).All()); }
 
-std::string UnusedName(const MemoryCommandBars& bars) {
-  int number = 1;
-  while (bars.OfName("Custom " + std::to_string(number)) != nullptr) ++number;
-  return "Custom " + std::to_string(number);
-}
-
 Variant Add(Call& call) {
   constexpr int kPlaceOfNewBars = bar_position::kTop;
-  const std::string name = call.Has(0) ? call.Text(0) : UnusedName(All(call));
+  const std::string name = call.TextOr(0, "");  // it gets one that is free
   NewCommandBar bar;
   bar.name = name;
   bar.position = static_cast<int>(call.LongOr(1, kPlaceOfNewBars));
@@ -36,26 +29,18 @@ Variant Add(Call& call) {
   return ObjectOf(call, All(call).Add(bar));
 }
 
-ControlSearch SearchOf(Call& call) {
-  ControlSearch search;
-  if (call.Has(0)) search.type = static_cast<int>(call.Long(0));
-  if (call.Has(1)) search.id = static_cast<int>(call.Long(1));
-  if (call.Has(2)) search.tag = call.Text(2);
-  search.visibleOnly = call.BoolOr(3, false);
-  return search;
+ControlQuery QueryOf(Call& call) {
+  ControlQuery query;
+  query.type = static_cast<int>(call.LongOr(0, 0));
+  query.id = static_cast<int>(call.LongOr(1, 0));
+  query.tag = call.TextOr(2, "");
+  query.isVisible = call.BoolOr(3, false);
+  return query;
 }
 
-Variant FindInAll(Call& call) {
-  ControlSearch search = SearchOf(call);
-  search.insidePopups = true;
-  for (const auto& bar : All(call).All()) {
-    if (const auto found = FindControl(*bar->Entries(), search)) return ObjectOf(call, found);
-  }
-  return Variant(static_cast<IDispatch*>(nullptr));
-}
+Variant FindInAll(Call& call) { return ObjectOf(call, All(call).Find(QueryOf(call))); }
 
-// No macro of a control runs here.
-Variant ActionControl(Call&) { return Variant(static_cast<IDispatch*>(nullptr)); }
+Variant ActionControl(Call& call) { return ObjectOf(call, All(call).ActionControl()); }
 
 Variant ActiveMenuBar(Call& call) {
   return ObjectOf(call, All(call).OfName(MemoryVbe::kMenuBarName));
@@ -73,10 +58,10 @@ Variant Delete(Call& call) {
 }
 
 Variant FindInBar(Call& call) {
-  ControlSearch search = SearchOf(call);
-  search.insidePopups = call.BoolOr(4, false);
+  ControlQuery query = QueryOf(call);
+  query.isInPopups = call.BoolOr(4, false);
   Self(call).Controls();  // raises the error of a bar that was deleted
-  return ObjectOf(call, FindControl(*Self(call).Entries(), search));
+  return ObjectOf(call, Self(call).Entries()->Find(query));
 }
 
 Variant Name(Call& call) { return Variant(Self(call).Name()); }
@@ -132,28 +117,11 @@ Variant SetProtection(Call& call) {
   return Variant();
 }
 
-Variant Index(Call& call) {
-  const auto& all = All(call).All();
-  const auto found = std::ranges::find(all, &Self(call), [](const auto& bar) { return bar.get(); });
-  if (found == all.end()) RaiseNoSuchEntry();
-  return Variant(static_cast<long>(found - all.begin() + 1));
-}
-
-enum class BarType { kNormal = 0, kMenuBar = 1, kPopup = 2 };
-
-Variant Type(Call& call) {
-  switch (Self(call).Position()) {
-    case bar_position::kMenuBar:
-      return Variant(static_cast<long>(BarType::kMenuBar));
-    case bar_position::kPopup:
-      return Variant(static_cast<long>(BarType::kPopup));
-    default:
-      return Variant(static_cast<long>(BarType::kNormal));
-  }
-}
+Variant Index(Call& call) { return Variant(Self(call).Index()); }
+Variant Type(Call& call) { return Variant(Self(call).Kind()); }
 
 Variant ShowPopup(Call& call) {
-  if (Self(call).Position() != bar_position::kPopup) {
+  if (Self(call).Kind() != bar_type::kPopup) {
     throw RunTimeError(error_number::kInvalidProcedureCall, "Only a pop-up menu can be shown so");
   }
   call.TheSession().TheSurface().ShowPopup(Self(call));
