@@ -10,7 +10,9 @@ MemoryVbe::MemoryVbe(MemoryKeyboard& keyboard, const MemoryClipboard& clipboard)
       mainWindow_(windows.Add(kMainWindowCaption, window_type::kMainWindow)) {
   windows.OnActivate([this](MemoryWindow& window) { NoteActivation(window); });
   windows.OnRemove([this](MemoryWindow& window) { ForgetPaneOf(window); });
-  AddCommandBar(std::make_shared<MemoryCommandBar>(kMenuBarName));
+  const auto menuBar = std::make_shared<MemoryCommandBar>(kMenuBarName);
+  menuBar->MakeMenuBar();
+  AddCommandBar(menuBar);
 }
 
 std::shared_ptr<Window> MemoryVbe::ActiveWindow() {

@@ -225,7 +225,7 @@ TEST_F(MemoryCommandBarsTest, TheEntriesOfAPopupGoWithIt) {
 TEST_F(MemoryCommandBarsTest, AMenuShowsTheEntriesOfItsBarAndLeavesThemThere) {
   const auto bar = std::make_shared<MemoryCommandBar>("Add-Ins");
   bars.Add(bar);
-  const auto popup = menu->Entries()->AddMenu("&Add-Ins", *bar);
+  const auto popup = menu->Entries()->AddMenu("&Add-Ins", bar);
   const auto button = AddButton(*bar->Controls(), "b");
   EXPECT_THAT(Captions(*popup->Controls()), ElementsAre("b"));
   popup->Delete();
