@@ -55,9 +55,12 @@ const std::map<std::string, Rooms, std::less<>>& AllowedRooms() {
       {"bench/automation", {"environment", "memory", "win32", "bench/model"}},
       {"bench/screen", {"environment", "memory", "win32", "bench/model"}},
       {"bench/add_ins", {"environment", "memory", "win32", "bench/model", "bench/automation"}},
+      {"bench/manager",
+       {"environment", "memory", "win32", "bench/model", "bench/automation", "bench/add_ins",
+        "bench/screen"}},
       {"bench/main",
        {"environment", "memory", "win32", "bench/model", "bench/automation", "bench/screen",
-        "bench/add_ins"}},
+        "bench/add_ins", "bench/manager"}},
   };
   return kAllowed;
 }
@@ -116,8 +119,8 @@ bool IsWindowsHeader(std::string_view header) {
 /// True where a file may use the system's headers: in a folder for Windows, or in a room that is
 /// for nothing else.
 bool IsForWindows(const std::string& file) {
-  static const Rooms kRooms = {"win32",        "windows",       "bench/automation",
-                               "bench/screen", "bench/add_ins", "bench/main"};
+  static const Rooms kRooms = {"win32",         "windows",       "bench/automation", "bench/screen",
+                               "bench/add_ins", "bench/manager", "bench/main"};
   return Contains(file, "/windows/") || kRooms.contains(RoomOf(file));
 }
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "bench/model/source_encoding.h"
 #include "environment/vbe.h"
 #include "memory/source_error.h"
 
@@ -9,8 +10,6 @@ namespace brimwork::bench {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kEncoding = "WINDOWS-1252";
 
 constexpr const char* kClassHeader =
     "VERSION 1.0 CLASS\r\n"
@@ -42,7 +41,7 @@ FileComposer Giving(const std::string& bytes) {
 
 ComponentFile::ComponentFile(fs::path path, FileContent content)
     : path_(std::move(path)),
-      source_(SourceFile::Parse(content.bytes, path_.string(), kEncoding)),
+      source_(SourceFile::Parse(content.bytes, path_.string(), kSourceEncoding)),
       snapshot_(content.snapshot),
       bytes_(std::move(content.bytes)) {}
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "bench/model/source_encoding.h"
 #include "environment/text.h"
 #include "memory/disk_file.h"
 #include "memory/listed_path.h"
@@ -15,7 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kEncoding = "WINDOWS-1252";
 constexpr std::string_view kStartupProject = "StartupProject";
 
 using Projects = std::vector<std::shared_ptr<WorkProject>>;
@@ -29,7 +29,7 @@ fs::path FileOn(const ProjectLine& line, const fs::path& group) {
 
 Projects ReadGroup(const fs::path& path) {
   const std::string text =
-      DecodeSource(ReadWholeFile(path.string()).bytes, path.string(), kEncoding).text;
+      DecodeSource(ReadWholeFile(path.string()).bytes, path.string(), kSourceEncoding).text;
   Projects projects;
   for (const ProjectLine& line : ProjectLinesOf(text)) {
     const bool starts = EqualNames(line.key, kStartupProject);

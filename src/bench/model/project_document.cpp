@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "bench/model/component_kind.h"
+#include "bench/model/source_encoding.h"
 #include "environment/text.h"
 #include "memory/listed_path.h"
 #include "memory/project_lines.h"
@@ -12,8 +13,6 @@ namespace brimwork::bench {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kEncoding = "WINDOWS-1252";
 
 }  // namespace
 
@@ -29,7 +28,8 @@ ProjectDocument ProjectDocument::Read(const fs::path& path) {
     throw SourceError(path.string(),
                       "this is no project: no line of it names a type, a reference or a file");
   }
-  return {path, DecodeSource(std::move(content.bytes), path.string(), kEncoding), content.snapshot};
+  return {path, DecodeSource(std::move(content.bytes), path.string(), kSourceEncoding),
+          content.snapshot};
 }
 
 std::vector<ProjectEntry> ProjectDocument::Entries() const {

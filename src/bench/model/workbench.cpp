@@ -21,6 +21,18 @@ void Workbench::Open(const fs::path& path) {
   Adopt(ReadProjects(whole));
 }
 
+std::vector<std::shared_ptr<WorkProject>> Workbench::OpenBeside(const fs::path& path) {
+  auto added = ReadProjects(fs::absolute(path).lexically_normal());
+  if (projects_.empty()) {
+    Adopt(added);
+    return added;
+  }
+  for (const auto& project : added) WatchOver(*project);
+  projects_.insert(projects_.end(), added.begin(), added.end());
+  ShowCaptions();
+  return added;
+}
+
 void Workbench::SaveAll() {
   for (const auto& project : projects_) project->Save();
 }
@@ -101,13 +113,15 @@ void Workbench::Adopt(std::vector<std::shared_ptr<WorkProject>> projects) {
     for (const auto& component : project->Components()) CloseWindowsOf(*component);
   }
   projects_ = std::move(projects);
-  for (const auto& project : projects_) {
-    project->onChange = [this] { ShowCaptions(); };
-    project->onRemove = [this](const WorkComponent& gone) { NoteComponentRemoved(gone); };
-  }
+  for (const auto& project : projects_) WatchOver(*project);
   selected_ = nullptr;
   SetActiveProject(projects_.front());
   if (!activeProject_->Components().empty()) Select(activeProject_->Components().front());
+}
+
+void Workbench::WatchOver(WorkProject& project) {
+  project.onChange = [this] { ShowCaptions(); };
+  project.onRemove = [this](const WorkComponent& gone) { NoteComponentRemoved(gone); };
 }
 
 void Workbench::CloseWindowsOf(const WorkComponent& component) {

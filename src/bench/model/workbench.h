@@ -30,6 +30,9 @@ class Workbench {
   /// SourceError, naming file and line, for what cannot be opened; what was open stays open then.
   void Open(const std::filesystem::path& path);
 
+  /// The same beside what is open; the answer is what was added.
+  std::vector<std::shared_ptr<WorkProject>> OpenBeside(const std::filesystem::path& path);
+
   /// Writes every component that was changed, each file in one step, with every byte that the
   /// editor does not show as it was. Throws SourceError for the first that cannot be written; those
   /// behind it stay changed.
@@ -82,6 +85,9 @@ class Workbench {
   UsualWindows windows;
   UsualCommandBars& bars = windows.bars;
 
+  /// The folder that was used last, for whoever asks the user for a file.
+  std::string lastUsedPath;
+
  private:
   /// A designer that was opened; it may have been closed since.
   struct Designer {
@@ -90,6 +96,7 @@ class Workbench {
   };
 
   void Adopt(std::vector<std::shared_ptr<WorkProject>> projects);
+  void WatchOver(WorkProject& project);
   void CloseWindowsOf(const WorkComponent& component);
   void NoteActivation(MemoryWindow& window);
   void NoteRemoval(const MemoryWindow& window);
