@@ -56,6 +56,8 @@ class MemoryCommandBarControl : public CommandBarControl,
   const std::string& LastTag() const { return tag_; }
   int Kind() const { return type_; }  // control_type::k...
   int Number() const { return id_; }  // its Id
+  bool BeginsGroup() const { return beginsGroup_; }
+  int LastStyle() const { return style_; }
   bool IsBuiltIn() const { return command_ != 0; }
   bool IsTemporary() const { return isTemporary_; }
   bool IsDeleted() const { return neighbours_ == nullptr; }

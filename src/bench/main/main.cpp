@@ -42,6 +42,7 @@ int RunMessageLoop(WorkbenchWindows& windows) {
 int Run(const Arguments& arguments) {
   Workbench bench;
   WorkbenchWindows windows(bench);
+  bench.vbe.commandBars.DisableIdleCommands();
   windows.Show();
   if (!arguments.project.empty()) windows.Open(arguments.project);
   if (!arguments.screenshot) return RunMessageLoop(windows);

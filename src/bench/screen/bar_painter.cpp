@@ -96,6 +96,22 @@ void PaintGrip(HDC context, const Bounds& bar, bool isDown) {
   DrawEdge(context, &grip, BDR_RAISEDINNER, BF_RECT);
 }
 
+// Drawn by hand: the system's own cross needs a font that is not everywhere.
+void PaintCloseButton(HDC context, const RECT& place, bool isDown) {
+  RECT area = place;
+  DrawFrameControl(context, &area, DFC_BUTTON, DFCS_BUTTONPUSH | (isDown ? DFCS_PUSHED : 0U));
+  const int shift = isDown ? 1 : 0;
+  const int left = static_cast<int>(area.left + area.right) / 2 - 4 + shift;
+  const int top = static_cast<int>(area.top + area.bottom) / 2 - 4 + shift;
+  const COLORREF colour = GetSysColor(COLOR_BTNTEXT);
+  for (int step = 0; step < 7; ++step) {
+    for (const int thick : {0, 1}) {
+      SetPixelV(context, left + step + thick, top + step + 1, colour);
+      SetPixelV(context, left + 6 - step + thick, top + step + 1, colour);
+    }
+  }
+}
+
 void PaintSeparator(HDC context, const Bounds& place) {
   RECT line = {place.left, place.top, place.left + place.width, place.top + place.height};
   if (place.width < place.height) {

@@ -23,4 +23,7 @@ void PaintGrip(HDC context, const Bounds& bar, bool isDown);
 /// The line between two groups.
 void PaintSeparator(HDC context, const Bounds& place);
 
+/// The button with a cross in a small caption.
+void PaintCloseButton(HDC context, const RECT& place, bool isDown);
+
 }  // namespace brimwork::bench

@@ -12,8 +12,8 @@ bool GoesAcross(int position) {
   return position == bar_position::kTop || position == bar_position::kBottom;
 }
 
-bool IsToolbar(int position) {
-  return position != bar_position::kMenuBar && position != bar_position::kPopup;
+bool IsShownToolbar(MemoryCommandBar& bar) {
+  return bar.Kind() == bar_type::kToolbar && bar.Details().enabled && bar.Visible();
 }
 
 }  // namespace
@@ -41,7 +41,7 @@ bool BarSet::Refresh() {
 std::vector<BarSet::Stand> BarSet::CurrentStands() const {
   std::vector<Stand> stands;
   for (const auto& bar : parts_.bench.vbe.commandBars.All()) {
-    if (!bar->Visible() || !IsToolbar(bar->Position())) continue;
+    if (!IsShownToolbar(*bar)) continue;
     stands.push_back({bar, bar->Position(), bar->RowIndex(), bar->Left(), bar->Top()});
   }
   return stands;

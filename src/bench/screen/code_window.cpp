@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "environment/vbe.h"
+#include "memory/usual_commands.h"
 
 namespace brimwork::bench {
 namespace {
@@ -15,7 +16,7 @@ constexpr int kMargin = 20;  // the grey strip beside the text
 CodeWindow::CodeWindow(const ScreenParts& parts, HWND client, std::shared_ptr<MemoryWindow> window,
                        MemoryCodePane& pane)
     : MdiChild(parts, std::move(window)), pane_(pane) {
-  CreateIn(client, L"BrimworkBenchCode", COLOR_BTNFACE);
+  CreateIn(client, L"BrimworkBenchCode", COLOR_BTNFACE, CommandGlyph(command::kViewCode));
   boxes_.emplace(Handle(), parts.fonts.Plain(),
                  [this](const ListedProcedure& procedure) { GoTo(procedure); });
   text_.emplace(parts, Handle(), std::make_unique<PaneText>(pane), Model(), [this](POINT place) {

@@ -28,9 +28,9 @@ struct ControlLook {
 };
 
 /// On a toolbar, where a button with a picture needs no caption.
-ControlLook LookOnBar(MemoryCommandBarControl& control, const Faces& faces);
+ControlLook LookOnBar(const MemoryCommandBarControl& control, const Faces& faces);
 
 /// In a menu, where every entry has its caption.
-ControlLook LookInMenu(MemoryCommandBarControl& control, const Faces& faces);
+ControlLook LookInMenu(const MemoryCommandBarControl& control, const Faces& faces);
 
 }  // namespace brimwork::bench

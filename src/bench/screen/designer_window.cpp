@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "environment/vbe.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
@@ -47,7 +48,7 @@ void PaintGrid(HDC context, const RECT& surface) {
 DesignerWindow::DesignerWindow(const ScreenParts& parts, HWND client,
                                std::shared_ptr<MemoryWindow> window)
     : MdiChild(parts, std::move(window)), caption_(CurrentCaption()) {
-  CreateIn(client, L"BrimworkBenchDesigner", COLOR_WINDOW);
+  CreateIn(client, L"BrimworkBenchDesigner", COLOR_WINDOW, ComponentGlyph(component_type::kForm));
 }
 
 std::string DesignerWindow::CurrentCaption() const {

@@ -1,4 +1,5 @@
 #include "bench/screen/glyph_table.h"
+#include "memory/usual_commands.h"
 
 namespace brimwork::bench {
 namespace {
@@ -59,10 +60,10 @@ constexpr Stroke kClearBookmarks[] = {
     Line(kRed, 12, 9, 8, 13)};
 
 constexpr CommandPicture kPictures[] = {
-    {2529, "", kListMembers}, {2530, "", kListConstants}, {2531, "", kQuickInfo},
-    {2532, "", kParameterInfo}, {2533, "", kCompleteWord}, {14, "", kIndent}, {15, "", kOutdent},
-    {51, "", kBreakpoint}, {192, "", kComment}, {2552, "", kUncomment}, {2525, "", kBookmark},
-    {2526, "", kNextBookmark}, {2527, "", kPreviousBookmark}, {2528, "", kClearBookmarks}};
+    {command::kListMembers, kListMembers}, {command::kListConstants, kListConstants}, {command::kQuickInfo, kQuickInfo},
+    {command::kParameterInfo, kParameterInfo}, {command::kCompleteWord, kCompleteWord}, {command::kIndent, kIndent}, {command::kOutdent, kOutdent},
+    {command::kToggleBreakpoint, kBreakpoint}, {command::kCommentBlock, kComment}, {command::kUncommentBlock, kUncomment}, {command::kToggleBookmark, kBookmark},
+    {command::kNextBookmark, kNextBookmark}, {command::kPreviousBookmark, kPreviousBookmark}, {command::kClearBookmarks, kClearBookmarks}};
 // clang-format on
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "bench/screen/face_dib.h"
 #include "bench/screen/faults.h"
 #include "bench/screen/glyphs.h"
-#include "environment/control.h"
 
 namespace brimwork::bench {
 namespace {
@@ -72,9 +71,11 @@ const Picture* Faces::Named(std::string_view name) const {
   return nullptr;
 }
 
-std::optional<Picture> Faces::Of(MemoryCommandBarControl& control) const {
+std::optional<Picture> Faces::Of(const MemoryCommandBarControl& control) const {
   if (const Picture* pasted = Named(control.Face())) return *pasted;
-  const Glyph glyph = CommandGlyph(control.Id(), ShownCaption(control.LastCaption()));
+  const int number = control.Details().faceId;
+  Glyph glyph = CommandGlyph(number != 0 ? number : control.Command());
+  if (glyph.empty() && number != 0 && !control.IsBuiltIn()) glyph = PlainGlyph();
   if (glyph.empty()) return std::nullopt;
   return Drawn(glyph);
 }

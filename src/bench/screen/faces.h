@@ -22,8 +22,8 @@ class Faces {
   /// Null when there is none of that name.
   const Picture* Named(std::string_view name) const;
 
-  /// Nothing for a control without a picture.
-  std::optional<Picture> Of(MemoryCommandBarControl& control) const;
+  /// Nothing for a control without a picture. One that has been deleted raises an error.
+  std::optional<Picture> Of(const MemoryCommandBarControl& control) const;
 
  private:
   std::vector<Picture> kept_;

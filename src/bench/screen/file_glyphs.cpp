@@ -1,11 +1,10 @@
 #include "bench/screen/glyph_table.h"
+#include "memory/usual_commands.h"
 
 namespace brimwork::bench {
 namespace {
 
 using namespace ink;
-
-constexpr int kShared = 746;
 
 // clang-format off
 constexpr Stroke kProject[] = {
@@ -58,11 +57,12 @@ constexpr Stroke kBreak[] = {Area(kNavy, 4, 3, 6, 12), Area(kNavy, 9, 3, 11, 12)
 constexpr Stroke kEnd[] = {Area(kNavy, 4, 4, 11, 11)};
 
 constexpr CommandPicture kPictures[] = {
-    {kShared, "Add Project", kProject}, {kShared, "Add Standard EXE Project", kProject},
-    {kShared, "New Project", kProject}, {kShared, "Add Form", kForm}, {23, "", kOpen},
-    {3, "", kSave}, {4, "", kPrint}, {21, "", kCut}, {19, "", kCopy}, {22, "", kPaste},
-    {141, "", kFind}, {128, "", kUndo}, {129, "", kRedo}, {186, "", kStart}, {189, "", kBreak},
-    {228, "", kEnd}};
+    {command::kAddProject, kProject}, {command::kNewProject, kProject}, {command::kAddForm, kForm},
+    {command::kSaveFile, kSave},
+    {command::kOpenProject, kOpen},
+    {command::kSaveProject, kSave}, {command::kPrint, kPrint}, {command::kCut, kCut}, {command::kCopy, kCopy}, {command::kPaste, kPaste},
+    {command::kFind, kFind}, {command::kUndo, kUndo}, {command::kRedo, kRedo}, {command::kStart, kStart}, {command::kBreak, kBreak},
+    {command::kEnd, kEnd}};
 // clang-format on
 
 }  // namespace

@@ -69,8 +69,8 @@ void FloatingBar::Paint() {
   DrawEdge(painting.Context(), &room, EDGE_RAISED, BF_RECT);
   RECT caption = {kEdge, kEdge, room.right - kEdge, kEdge + kCaption};
   FillRect(painting.Context(), &caption, GetSysColorBrush(COLOR_ACTIVECAPTION));
-  RECT close = CloseArea();
-  DrawFrameControl(painting.Context(), &close, DFC_CAPTION, DFCS_CAPTIONCLOSE);
+  const RECT close = CloseArea();
+  PaintCloseButton(painting.Context(), close, false);
   const SelectedObject font(painting.Context(), parts_.fonts.Bold());
   SetBkMode(painting.Context(), TRANSPARENT);
   SetTextColor(painting.Context(), GetSysColor(COLOR_CAPTIONTEXT));

@@ -8,8 +8,7 @@
 namespace brimwork::bench {
 
 struct CommandPicture {
-  int id;
-  std::string_view caption;  // "" for any
+  int number;
   Glyph glyph;
 };
 

@@ -1,15 +1,15 @@
 #include "bench/screen/glyphs.h"
 
+#include <algorithm>
+
 #include "bench/screen/glyph_table.h"
 
 namespace brimwork::bench {
 
-Glyph CommandGlyph(int id, std::string_view caption) {
+Glyph CommandGlyph(int number) {
   for (const auto table : {FileGlyphs(), EditorGlyphs(), WindowGlyphs()}) {
-    for (const CommandPicture& picture : table) {
-      if (picture.id != id) continue;
-      if (picture.caption.empty() || picture.caption == caption) return picture.glyph;
-    }
+    const auto found = std::ranges::find(table, number, &CommandPicture::number);
+    if (found != table.end()) return found->glyph;
   }
   return {};
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
 #include "bench/screen/strokes.h"
 
@@ -10,9 +9,12 @@ namespace brimwork::bench {
 
 using Glyph = std::span<const Stroke>;
 
-/// Empty for a command without a picture. caption: without access keys, for the many commands that
-/// bear one number.
-Glyph CommandGlyph(int id, std::string_view caption);
+/// number: one of the environment's commands (see usual_commands.h), which are the numbers of faces
+/// as well. Empty for one without a picture.
+Glyph CommandGlyph(int number);
+
+/// Stands for a face that is asked for by a number and not drawn here.
+Glyph PlainGlyph();
 
 /// Of a component's type, or of a whole project.
 Glyph ComponentGlyph(int componentType);

@@ -86,6 +86,25 @@ class Painting {
   PAINTSTRUCT paint_;
 };
 
+class IconHandle {
+ public:
+  IconHandle() = default;
+  explicit IconHandle(HICON icon) : icon_(icon) {}
+  IconHandle(IconHandle&& other) noexcept : icon_(std::exchange(other.icon_, nullptr)) {}
+  IconHandle& operator=(IconHandle&& other) noexcept {
+    std::swap(icon_, other.icon_);
+    return *this;
+  }
+  ~IconHandle() {
+    if (icon_ != nullptr) DestroyIcon(icon_);
+  }
+
+  HICON get() const { return icon_; }
+
+ private:
+  HICON icon_ = nullptr;
+};
+
 class MenuHandle {
  public:
   MenuHandle() = default;

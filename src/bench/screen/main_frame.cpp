@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "bench/screen/faults.h"
+#include "bench/screen/glyphs.h"
+#include "bench/screen/picture_painter.h"
 
 namespace brimwork::bench {
 namespace {
@@ -22,8 +24,10 @@ constexpr int kHeight = 720;
 MainFrame::MainFrame(FrameEvents& events) : events_(events) {
   Create({.className = L"BrimworkBench",
           .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-          .bounds = {12, 12, kWidth, kHeight},
-          .icon = LoadIconW(nullptr, IDI_APPLICATION)});
+          .bounds = {12, 12, kWidth, kHeight}});
+  icon_ = IconOf(Drawn(ProjectGlyph()));
+  SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
+  SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));
   CreateClient();
 }
 

@@ -54,6 +54,7 @@ class MainFrame : public NativeWindow {
 
   FrameEvents& events_;
   HWND client_ = nullptr;  // goes with this window
+  IconHandle icon_;
   MenuHandle menu_;
   std::deque<std::function<void()>> tasks_;
   bool isIdleAsked_ = false;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "bench/screen/picture_painter.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
@@ -9,7 +10,8 @@ namespace brimwork::bench {
 MdiChild::MdiChild(const ScreenParts& parts, std::shared_ptr<MemoryWindow> window)
     : parts_(parts), window_(std::move(window)), title_(window_->Caption()) {}
 
-void MdiChild::CreateIn(HWND client, const wchar_t* className, int background) {
+void MdiChild::CreateIn(HWND client, const wchar_t* className, int background, Glyph glyph) {
+  icon_ = IconOf(Drawn(glyph));
   const std::wstring title = win32::Wide(title_);
   Create({.className = className,
           .title = title.c_str(),
@@ -17,6 +19,7 @@ void MdiChild::CreateIn(HWND client, const wchar_t* className, int background) {
           .extendedStyle = WS_EX_MDICHILD,
           .parent = client,
           .background = background});
+  SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
 }
 
 void MdiChild::Close() {

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "bench/screen/glyphs.h"
+#include "bench/screen/handles.h"
 #include "bench/screen/native_window.h"
 #include "bench/screen/screen_host.h"
 
@@ -30,7 +32,7 @@ class MdiChild : public NativeWindow {
 
  protected:
   /// client: the MDI client that it becomes a child of.
-  void CreateIn(HWND client, const wchar_t* className, int background);
+  void CreateIn(HWND client, const wchar_t* className, int background, Glyph glyph);
 
   LRESULT OnMessage(UINT message, WPARAM wide, LPARAM longer) override;
   LRESULT Default(UINT message, WPARAM wide, LPARAM longer) override {
@@ -46,6 +48,7 @@ class MdiChild : public NativeWindow {
  private:
   ScreenParts parts_;
   std::shared_ptr<MemoryWindow> window_;
+  IconHandle icon_;
   std::string title_;  // the one shown
 };
 

@@ -55,7 +55,6 @@ void NativeWindow::Register(const Design& design) {
   registered.style = design.classStyle;
   registered.lpfnWndProc = &NativeWindow::Procedure;
   registered.hInstance = GetModuleHandleW(nullptr);
-  registered.hIcon = design.icon;
   registered.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   registered.hbrBackground = design.background < 0 ? nullptr : GetSysColorBrush(design.background);
   registered.lpszClassName = design.className;

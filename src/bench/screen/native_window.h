@@ -27,7 +27,6 @@ class NativeWindow {
     Bounds bounds{CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT};
     int background = COLOR_BTNFACE;  // -1 for none
     UINT classStyle = 0;
-    HICON icon = nullptr;
   };
 
   /// Throws RunTimeError when the system makes no window.

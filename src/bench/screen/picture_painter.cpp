@@ -65,4 +65,24 @@ GdiObject<HBITMAP> BitmapOf(const Picture& picture, COLORREF background) {
   return bitmap;
 }
 
+// An icon's bitmap is black where its mask lets the ground show through.
+IconHandle IconOf(const Picture& picture) {
+  const GdiObject<HBITMAP> colours = BitmapOf(picture, RGB(0, 0, 0));
+  Picture mask;
+  std::ranges::transform(picture.points, mask.points.begin(), [](Colour colour) {
+    return IsSeeThrough(colour) ? 0xFFFFFFFF : 0xFF000000;
+  });
+  const GdiObject<HBITMAP> shape = BitmapOf(mask, RGB(0, 0, 0));
+  const GdiObject<HBITMAP> bits(CreateBitmap(Picture::kSize, Picture::kSize, 1, 1, nullptr));
+  const MemoryContext from;
+  const MemoryContext to;
+  {
+    const SelectedObject source(from.get(), shape.get());
+    const SelectedObject target(to.get(), bits.get());
+    BitBlt(to.get(), 0, 0, Picture::kSize, Picture::kSize, from.get(), 0, 0, SRCCOPY);
+  }
+  ICONINFO icon{TRUE, 0, 0, bits.get(), colours.get()};
+  return IconHandle(CreateIconIndirect(&icon));
+}
+
 }  // namespace brimwork::bench

@@ -33,4 +33,6 @@ void DrawPicture(HDC context, const Picture& picture, int x, int y, bool enabled
 /// For menus, which draw a bitmap as it is: see-through points get the colour.
 GdiObject<HBITMAP> BitmapOf(const Picture& picture, COLORREF background);
 
+IconHandle IconOf(const Picture& picture);
+
 }  // namespace brimwork::bench

@@ -157,9 +157,20 @@ void TextView::ShowSelection() {
   if (hasMoved) SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
 }
 
-bool TextView::HasSelection() const {
+std::wstring TextView::SelectedWord() {
+  TakeInput();
   const UnitRange units = SelectedUnits(Handle());
-  return units.start != units.end;
+  const std::wstring selected = shown_.substr(units.start, units.end - units.start);
+  return selected.find(L'\r') == std::wstring::npos ? selected : std::wstring();
+}
+
+bool TextView::Find(const SearchQuery& query) {
+  TakeInput();
+  const auto found = FindNext(shown_, query, SelectedUnits(Handle()).end);
+  if (!found) return false;
+  SelectUnits(Handle(), {*found, *found + query.wanted.size()});
+  SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
+  return true;
 }
 
 void TextView::Cut() { SendMessageW(Handle(), WM_CUT, 0, 0); }

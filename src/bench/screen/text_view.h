@@ -10,6 +10,7 @@
 #include "bench/screen/screen_host.h"
 #include "bench/screen/shown_text.h"
 #include "bench/screen/subclass.h"
+#include "bench/screen/text_search.h"
 
 namespace brimwork::bench {
 
@@ -25,9 +26,14 @@ class TextView : public SubclassedControl {
   /// Draws what changed in the workbench.
   void Refresh();
 
-  bool HasSelection() const;
   bool CanUndo() const { return history_.CanUndo(); }
   bool CanRedo() const { return history_.CanRedo(); }
+
+  /// The selection when it lies within a line.
+  std::wstring SelectedWord();
+
+  /// Selects what is found next behind the selection; false when nothing is.
+  bool Find(const SearchQuery& query);
 
   // The user's commands.
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "bench/screen/bar_painter.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
@@ -100,9 +101,8 @@ void ToolWindow::PaintCaption(HDC context) const {
   RECT caption = CaptionArea();
   FillRect(context, &caption,
            GetSysColorBrush(isShownActive_ ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
-  RECT close = CloseArea();
-  DrawFrameControl(context, &close, DFC_CAPTION,
-                   DFCS_CAPTIONCLOSE | (isPressingClose_ ? DFCS_PUSHED : 0U));
+  const RECT close = CloseArea();
+  PaintCloseButton(context, close, isPressingClose_);
   const SelectedObject font(context, parts_.fonts.Bold());
   SetBkMode(context, TRANSPARENT);
   SetTextColor(context,

@@ -1,18 +1,11 @@
 #include "bench/screen/glyph_table.h"
+#include "environment/vbe.h"
+#include "memory/usual_commands.h"
 
 namespace brimwork::bench {
 namespace {
 
 using namespace ink;
-
-namespace type {
-constexpr int kModule = 1;
-constexpr int kClass = 2;
-constexpr int kForm = 5;
-constexpr int kMdiForm = 6;
-constexpr int kPropertyPage = 7;
-constexpr int kUserControl = 8;
-}  // namespace type
 
 // clang-format off
 constexpr Stroke kProjectTree[] = {
@@ -65,10 +58,14 @@ constexpr Stroke kClass[] = {
 constexpr Stroke kForm[] = {
     Area(kWhite, 1, 2, 14, 13), Frame(kGrey, 1, 2, 14, 13), Area(kBlue, 1, 2, 14, 4)};
 
+constexpr Stroke kPlain[] = {
+    Area(kSilver, 3, 3, 12, 12), Frame(kGrey, 3, 3, 12, 12)};
+
 constexpr CommandPicture kPictures[] = {
-    {2557, "", kProjectTree}, {222, "", kProperties}, {3046, "", kFormLayout},
-    {473, "", kObjectBrowser}, {548, "", kToolbox}, {2553, "", kViewObject},
-    {2558, "", kViewCode}, {2554, "", kImmediate}, {2555, "", kLocals}, {2556, "", kWatch}};
+    {command::kProjectExplorer, kProjectTree}, {command::kPropertiesWindow, kProperties}, {command::kFormLayout, kFormLayout},
+    {command::kObjectBrowser, kObjectBrowser}, {command::kToolbox, kToolbox}, {command::kViewObject, kViewObject},
+    {command::kViewCode, kViewCode}, {command::kImmediateWindow, kImmediate}, {command::kLocalsWindow, kLocals}, {command::kWatchWindow, kWatch},
+    {command::kAddModule, kModule}, {command::kAddClassModule, kClass}};
 // clang-format on
 
 }  // namespace
@@ -77,20 +74,21 @@ std::span<const CommandPicture> WindowGlyphs() { return kPictures; }
 
 Glyph ComponentGlyph(int componentType) {
   switch (componentType) {
-    case type::kModule:
+    case component_type::kStandardModule:
       return kModule;
-    case type::kClass:
+    case component_type::kClassModule:
       return kClass;
-    case type::kForm:
-    case type::kMdiForm:
-    case type::kPropertyPage:
-    case type::kUserControl:
+    case component_type::kForm:
+    case component_type::kMdiForm:
+    case component_type::kPropertyPage:
+    case component_type::kUserControl:
       return kForm;
     default:
       return kViewCode;
   }
 }
 
+Glyph PlainGlyph() { return kPlain; }
 Glyph ProjectGlyph() { return kProject; }
 Glyph FolderGlyph() { return kFolder; }
 

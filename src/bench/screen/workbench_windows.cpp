@@ -30,7 +30,9 @@ WorkbenchWindows::WorkbenchWindows(Workbench& bench)
       tools_(parts_, frame_.Handle()),
       workspace_(parts_, frame_.Client()),
       desk_(frame_.Handle(), frame_.Client(), bars_, tools_),
-      focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }) {
+      focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }),
+      commands_(parts_, workspace_, tools_, [this] { OnCloseAsked(); }) {
+  bench_.windows.toolbox->SetVisible(false);
   Settle();
 }
 
@@ -43,11 +45,7 @@ void WorkbenchWindows::Show() {
 }
 
 void WorkbenchWindows::Open(const std::filesystem::path& path) {
-  Perform([&] {
-    bench_.Open(path);
-    const auto first = bench_.SelectedComponent();
-    if (first != nullptr) bench_.PaneOf(first);
-  });
+  Perform([&] { commands_.Open(path); });
   Settle();
 }
 
@@ -56,8 +54,13 @@ void WorkbenchWindows::TakeInput() {
   tools_.TakeInput();
 }
 
+// It is called where a call from outside has ended, which nothing may throw into.
 void WorkbenchWindows::ShowChanges() {
-  if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  try {
+    if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  } catch (...) {
+    ReportFault(frame_.Handle());
+  }
   frame_.AskForIdle();
 }
 
@@ -73,6 +76,7 @@ void WorkbenchWindows::Settle() {
   if (std::exchange(isSettling_, true)) return;
   TakeInput();
   if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  commands_.ShowStates();
   if (bars_.Refresh()) desk_.Arrange();
   workspace_.Refresh();
   tools_.Refresh();
@@ -88,7 +92,7 @@ void WorkbenchWindows::ShowTitle() {
 }
 
 void WorkbenchWindows::ShowMenuBar() {
-  const auto bar = bench_.vbe.commandBars.All().front();
+  const auto& bar = bench_.bars.menuBar;
   std::vector<ControlLook> looks;
   for (const auto& control : bar->Entries()->All()) looks.push_back(LookInMenu(*control, faces_));
   if (looks == menuBar_ || frame_.IsInMenu()) return;
@@ -136,7 +140,15 @@ void WorkbenchWindows::CloseByUser(const std::shared_ptr<MemoryWindow>& window) 
 
 void WorkbenchWindows::NoteFocus(const std::shared_ptr<MemoryWindow>& window) {
   focus_.NoteFocus(window);
+  ShowToolboxFor(*window);
   frame_.AskForIdle();
+}
+
+/// A designer brings the toolbox along; what the user has hidden since stays hidden.
+void WorkbenchWindows::ShowToolboxFor(const MemoryWindow& window) {
+  if (hasShownToolbox_ || bench_.ComponentOfDesigner(window) == nullptr) return;
+  hasShownToolbox_ = true;
+  bench_.windows.toolbox->SetVisible(true);
 }
 
 void WorkbenchWindows::OpenMenu(std::shared_ptr<MemoryCommandBarControls> entries, POINT place) {
@@ -145,7 +157,11 @@ void WorkbenchWindows::OpenMenu(std::shared_ptr<MemoryCommandBarControls> entrie
   });
 }
 
-void WorkbenchWindows::OnCloseAsked() { Quit(); }
+void WorkbenchWindows::OnCloseAsked() {
+  Do([this] {
+    if (commands_.MayClose()) Quit();
+  });
+}
 
 void WorkbenchWindows::OnCommand(UINT command) {
   if (auto action = menus_.ActionOf(command)) Do(std::move(action));
@@ -168,12 +184,21 @@ void WorkbenchWindows::OnMouse(UINT message, POINT place) {
   }
 }
 
-std::vector<FurtherEntry> WorkbenchWindows::WindowEntries(const MemoryCommandBarControls&) {
-  return {};
+/// The open windows, in the Window menu.
+std::vector<FurtherEntry> WorkbenchWindows::WindowEntries(const MemoryCommandBarControls& entries) {
+  if (&entries != bench_.bars.window->Entries().get()) return {};
+  std::vector<FurtherEntry> further;
+  const MdiChild* active = workspace_.Active();
+  for (const auto& window : workspace_.Windows()) {
+    if (!window->Model()->Visible()) continue;
+    further.push_back({"&" + std::to_string(further.size() + 1) + " " + window->Model()->Caption(),
+                       window.get() == active, [model = window->Model()] { model->SetFocus(); }});
+  }
+  return further;
 }
 
 bool WorkbenchWindows::TakesKey(MSG& message) {
-  return TranslateMDISysAccel(frame_.Client(), &message) != 0;
+  return commands_.TakesKey(message) || TranslateMDISysAccel(frame_.Client(), &message) != 0;
 }
 
 HWND WorkbenchWindows::NativeOf(const MemoryWindow& window) const {
@@ -250,7 +275,9 @@ void WorkbenchWindows::ShowPopup(MemoryCommandBar& menu) {
   ShowChanges();
   POINT place{};
   GetCursorPos(&place);
+  menu.NoteOpen(true);
   const auto action = ChooseFromMenu(menus_, menu.Entries(), frame_.Handle(), place);
+  menu.NoteOpen(false);
   if (action) Do(action);
 }
 

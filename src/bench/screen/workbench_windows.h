@@ -18,6 +18,7 @@
 #include "bench/screen/menu_table.h"
 #include "bench/screen/screen_host.h"
 #include "bench/screen/tool_set.h"
+#include "bench/screen/user_commands.h"
 #include "bench/screen/workspace.h"
 
 namespace brimwork::bench {
@@ -83,6 +84,7 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   HCURSOR CursorAt(POINT place) override { return desk_.CursorAt(place); }
 
   void FollowWindows();
+  void ShowToolboxFor(const MemoryWindow& window);
   void ShowTitle();
   void ShowMenuBar();
   void GiveFocus(MemoryWindow* window);
@@ -101,11 +103,13 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   Workspace workspace_;
   Desk desk_;
   FocusLink focus_;
+  UserCommands commands_;
 
   std::string title_;
   std::vector<ControlLook> menuBar_;  // the one shown
   std::uint64_t windowsRevision_ = 0;
   bool isSettling_ = false;
+  bool hasShownToolbox_ = false;  // for a designer
 };
 
 }  // namespace brimwork::bench
