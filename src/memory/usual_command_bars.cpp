@@ -83,7 +83,7 @@ class UsualBarBuilder {
 
   static void FillCodeWindowMenu(const MemoryCommandBar& menu) {
     Fill(*menu.Entries(), usual::kAboveToggle);
-    AddPopup(menu, "To&ggle", usual::kToggle, true);
+    AddPopup(menu, "To&ggle", usual::kToggle, false);
     Fill(*menu.Entries(), usual::kBelowToggle);
   }
 
