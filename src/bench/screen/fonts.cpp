@@ -1,0 +1,31 @@
+#include "bench/screen/fonts.h"
+
+namespace brimwork::bench {
+namespace {
+
+GdiObject<HFONT> NewFont(const wchar_t* face, int points, int weight) {
+  const WindowContext screen(nullptr);
+  LOGFONTW font{};
+  font.lfHeight = -MulDiv(points, GetDeviceCaps(screen.get(), LOGPIXELSY), 72);
+  font.lfWeight = weight;
+  font.lfCharSet = DEFAULT_CHARSET;
+  lstrcpynW(font.lfFaceName, face, LF_FACESIZE);
+  return GdiObject<HFONT>(CreateFontIndirectW(&font));
+}
+
+}  // namespace
+
+Fonts::Fonts()
+    : plain_(NewFont(L"Tahoma", 8, FW_NORMAL)),
+      bold_(NewFont(L"Tahoma", 8, FW_BOLD)),
+      code_(NewFont(L"Courier New", 10, FW_NORMAL)) {}
+
+int WidthOf(HFONT font, const wchar_t* text) {
+  const WindowContext screen(nullptr);
+  const SelectedObject selected(screen.get(), font);
+  SIZE size{};
+  GetTextExtentPoint32W(screen.get(), text, lstrlenW(text), &size);
+  return static_cast<int>(size.cx);
+}
+
+}  // namespace brimwork::bench

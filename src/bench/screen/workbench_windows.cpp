@@ -1,0 +1,259 @@
+#include "bench/screen/workbench_windows.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "bench/screen/faults.h"
+#include "win32/wide_text.h"
+
+namespace brimwork::bench {
+namespace {
+
+Bounds BoundsIn(HWND parent, HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  if (parent != nullptr) MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
+  return {static_cast<int>(area.left), static_cast<int>(area.top),
+          static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+}
+
+}  // namespace
+
+WorkbenchWindows::WorkbenchWindows(Workbench& bench)
+    : bench_(bench),
+      frame_(*this),
+      parts_{bench_, *this, fonts_, faces_},
+      menus_(faces_, [this](const auto& entries) { return WindowEntries(entries); }),
+      bars_(parts_, frame_.Handle()),
+      tools_(parts_, frame_.Handle()),
+      workspace_(parts_, frame_.Client()),
+      desk_(frame_.Handle(), frame_.Client(), bars_, tools_),
+      focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }) {
+  Settle();
+}
+
+WorkbenchWindows::~WorkbenchWindows() = default;
+
+void WorkbenchWindows::Show() {
+  ShowWindow(frame_.Handle(), SW_SHOW);
+  SetForegroundWindow(frame_.Handle());
+  Settle();
+}
+
+void WorkbenchWindows::Open(const std::filesystem::path& path) {
+  Perform([&] {
+    bench_.Open(path);
+    const auto first = bench_.SelectedComponent();
+    if (first != nullptr) bench_.PaneOf(first);
+  });
+  Settle();
+}
+
+void WorkbenchWindows::TakeInput() {
+  workspace_.TakeInput();
+  tools_.TakeInput();
+}
+
+void WorkbenchWindows::ShowChanges() {
+  if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  frame_.AskForIdle();
+}
+
+/// Opens and closes windows as the model has them, and moves the focus with its active window.
+void WorkbenchWindows::FollowWindows() {
+  windowsRevision_ = bench_.vbe.windows.Revision();
+  workspace_.FollowModel();
+  if (tools_.ReadVisibility()) desk_.Arrange();
+  focus_.FollowModel();
+}
+
+void WorkbenchWindows::Settle() {
+  if (std::exchange(isSettling_, true)) return;
+  TakeInput();
+  if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  if (bars_.Refresh()) desk_.Arrange();
+  workspace_.Refresh();
+  tools_.Refresh();
+  ShowTitle();
+  ShowMenuBar();
+  isSettling_ = false;
+}
+
+void WorkbenchWindows::ShowTitle() {
+  const std::string title = bench_.vbe.MainWindow()->Caption();
+  if (std::exchange(title_, title) == title) return;
+  SetWindowTextW(frame_.Handle(), win32::Wide(title).c_str());
+}
+
+void WorkbenchWindows::ShowMenuBar() {
+  const auto bar = bench_.vbe.commandBars.All().front();
+  std::vector<ControlLook> looks;
+  for (const auto& control : bar->Entries()->All()) looks.push_back(LookInMenu(*control, faces_));
+  if (looks == menuBar_ || frame_.IsInMenu()) return;
+  menuBar_ = std::move(looks);
+  menus_.Clear();
+  frame_.SetMenuBar(menus_.NewMenuBar(bar->Entries()));
+}
+
+void WorkbenchWindows::GiveFocus(MemoryWindow* window) {
+  if (window == nullptr) {
+    SetFocus(frame_.Handle());
+    return;
+  }
+  if (const MdiChild* child = workspace_.Of(*window)) {
+    workspace_.Activate(*child);
+    SetFocus(child->FocusTarget());
+  } else if (const ToolWindow* tool = tools_.Of(*window)) {
+    SetFocus(tool->Handle());
+  }
+}
+
+void WorkbenchWindows::Do(std::function<void()> action) {
+  frame_.Later([this, action = std::move(action)] { Perform(action); });
+}
+
+void WorkbenchWindows::Perform(const std::function<void()>& action) {
+  TakeInput();
+  try {
+    action();
+  } catch (...) {
+    ReportFault(frame_.Handle());
+  }
+  ShowChanges();
+}
+
+// The system activates the window behind, and the focus goes with it.
+void WorkbenchWindows::CloseByUser(const std::shared_ptr<MemoryWindow>& window) {
+  Do([this, window] {
+    window->Close();
+    workspace_.FollowModel();
+    const MdiChild* next = workspace_.Active();
+    if (bench_.vbe.windows.Active() == nullptr && next != nullptr) next->Model()->SetFocus();
+  });
+}
+
+void WorkbenchWindows::NoteFocus(const std::shared_ptr<MemoryWindow>& window) {
+  focus_.NoteFocus(window);
+  frame_.AskForIdle();
+}
+
+void WorkbenchWindows::OpenMenu(std::shared_ptr<MemoryCommandBarControls> entries, POINT place) {
+  Do([this, entries = std::move(entries), place] {
+    if (const auto action = ChooseFromMenu(menus_, entries, frame_.Handle(), place)) action();
+  });
+}
+
+void WorkbenchWindows::OnCloseAsked() { Quit(); }
+
+void WorkbenchWindows::OnCommand(UINT command) {
+  if (auto action = menus_.ActionOf(command)) Do(std::move(action));
+}
+
+void WorkbenchWindows::OnMenuOpening(HMENU menu) {
+  TakeInput();
+  menus_.Fill(menu);
+}
+
+void WorkbenchWindows::OnMouse(UINT message, POINT place) {
+  if (!bars_.IsDragging()) return desk_.OnMouse(message, place);
+  if (message == WM_MOUSEMOVE) {
+    ClientToScreen(frame_.Handle(), &place);
+    bars_.DragTo(place);
+    if (bars_.Refresh()) desk_.Arrange();
+  } else {
+    bars_.EndDrag();
+    if (message == WM_LBUTTONUP) ReleaseCapture();
+  }
+}
+
+std::vector<FurtherEntry> WorkbenchWindows::WindowEntries(const MemoryCommandBarControls&) {
+  return {};
+}
+
+bool WorkbenchWindows::TakesKey(MSG& message) {
+  return TranslateMDISysAccel(frame_.Client(), &message) != 0;
+}
+
+HWND WorkbenchWindows::NativeOf(const MemoryWindow& window) const {
+  if (const MdiChild* child = workspace_.Of(window)) return child->Handle();
+  if (const ToolWindow* tool = tools_.Of(window)) return tool->Handle();
+  return frame_.Handle();
+}
+
+std::intptr_t WorkbenchWindows::HandleOf(const MemoryWindow& window) {
+  FollowWindows();
+  return reinterpret_cast<std::intptr_t>(NativeOf(window));
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryWindow& window) {
+  const HWND native = NativeOf(window);
+  if (native == frame_.Handle()) return BoundsIn(nullptr, native);
+  const bool isChild = workspace_.Of(window) != nullptr;
+  return BoundsIn(isChild ? frame_.Client() : frame_.Handle(), native);
+}
+
+void WorkbenchWindows::SetBoundsOf(const MemoryWindow& window, const Bounds& bounds) {
+  if (tools_.Of(window) != nullptr) return;  // docked windows stay where they are
+  MoveWindow(NativeOf(window), bounds.left, bounds.top, bounds.width, bounds.height, TRUE);
+}
+
+WindowState WorkbenchWindows::StateOf(const MemoryWindow& window) {
+  const HWND native = NativeOf(window);
+  if (IsIconic(native)) return WindowState::kMinimized;
+  return IsZoomed(native) ? WindowState::kMaximized : WindowState::kNormal;
+}
+
+void WorkbenchWindows::SetStateOf(const MemoryWindow& window, WindowState state) {
+  if (MdiChild* child = workspace_.Of(window)) return child->SetState(state);
+  if (tools_.Of(window) != nullptr) return;
+  constexpr int kShown[] = {SW_RESTORE, SW_MINIMIZE, SW_MAXIMIZE};
+  ShowWindow(frame_.Handle(), kShown[static_cast<std::size_t>(state)]);
+}
+
+int WorkbenchWindows::TopLineOf(const MemoryCodePane& pane) {
+  CodeWindow* window = workspace_.Of(pane);
+  return window != nullptr ? window->Text().TopLine() : 1;
+}
+
+void WorkbenchWindows::SetTopLineOf(const MemoryCodePane& pane, int line) {
+  if (CodeWindow* window = workspace_.Of(pane)) window->Text().SetTopLine(line);
+}
+
+int WorkbenchWindows::VisibleLinesOf(const MemoryCodePane& pane) {
+  CodeWindow* window = workspace_.Of(pane);
+  return window != nullptr ? window->Text().VisibleLines() : 0;
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBar& bar) {
+  if (bars_.Refresh()) desk_.Arrange();
+  return bars_.BoundsOf(bar).value_or(Bounds{});
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBarControl& control) {
+  if (bars_.Refresh()) desk_.Arrange();
+  return bars_.BoundsOf(control).value_or(Bounds{});
+}
+
+std::string WorkbenchWindows::FaceFromClipboard() {
+  const auto face = FaceOnClipboard(frame_.Handle());
+  return face ? faces_.Keep(*face) : std::string();
+}
+
+void WorkbenchWindows::FaceToClipboard(const MemoryCommandBarControl& control) {
+  if (const auto face = faces_.Of(const_cast<MemoryCommandBarControl&>(control)))
+    PutFaceOnClipboard(frame_.Handle(), *face);
+}
+
+void WorkbenchWindows::ShowPopup(MemoryCommandBar& menu) {
+  ShowChanges();
+  POINT place{};
+  GetCursorPos(&place);
+  const auto action = ChooseFromMenu(menus_, menu.Entries(), frame_.Handle(), place);
+  if (action) Do(action);
+}
+
+void WorkbenchWindows::Quit() { PostQuitMessage(0); }
+
+}  // namespace brimwork::bench
