@@ -58,9 +58,10 @@ const std::map<std::string, Rooms, std::less<>>& AllowedRooms() {
       {"bench/manager",
        {"environment", "memory", "win32", "bench/model", "bench/automation", "bench/add_ins",
         "bench/screen"}},
-      {"bench/main",
+      {"bench/program",
        {"environment", "memory", "win32", "bench/model", "bench/automation", "bench/screen",
         "bench/add_ins", "bench/manager"}},
+      {"bench/main", {"environment", "win32", "bench/automation", "bench/screen", "bench/program"}},
   };
   return kAllowed;
 }
@@ -120,7 +121,7 @@ bool IsWindowsHeader(std::string_view header) {
 /// for nothing else.
 bool IsForWindows(const std::string& file) {
   static const Rooms kRooms = {"win32",         "windows",       "bench/automation", "bench/screen",
-                               "bench/add_ins", "bench/manager", "bench/main"};
+                               "bench/add_ins", "bench/manager", "bench/program",    "bench/main"};
   return Contains(file, "/windows/") || kRooms.contains(RoomOf(file));
 }
 

@@ -67,6 +67,8 @@ class MemoryCommandBar : public CommandBar {
 
   const std::string& LastName() const { return name_; }
   int Kind() const { return type_; }  // bar_type::k...
+  int LastLeft() const { return left_; }
+  int LastTop() const { return top_; }
   bool IsDeleted() const { return isDeleted_; }
   bool IsOfAPopup() const { return isOfAPopup_; }
   const std::shared_ptr<MemoryCommandBarControls>& Entries() const { return entries_; }

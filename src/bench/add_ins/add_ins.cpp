@@ -49,16 +49,19 @@ void AddIns::Update() {
 
 void AddIns::Start() {
   const auto all = addIns_;  // an add-in may change the list
-  std::vector<std::shared_ptr<AddIn>> started;
   for (const auto& addIn : all) {
     if ((addIn->Registered().loadBehavior & load_behavior::kAtStartup) == 0) continue;
     try {
       Connect(*addIn, ConnectMode::kStartup);
-      started.push_back(addIn);
+      started_.push_back(addIn);
     } catch (const ConnectionFailure&) {
       continue;  // the record says why; the others start all the same
     }
   }
+}
+
+void AddIns::CompleteStart() {
+  const auto started = std::exchange(started_, {});
   for (const auto& addIn : started) {
     if (addIn->connection_ != nullptr) addIn->connection_->TellStartupComplete();
   }

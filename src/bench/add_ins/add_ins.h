@@ -26,8 +26,11 @@ class AddIns : public AddInList {
   std::vector<std::shared_ptr<AddInEntry>> Entries() override;
   void Update() override;
 
-  /// Connects those that are to be loaded at startup, then tells them that it is complete.
+  /// Connects those that are to be loaded at startup. One that fails is among the records.
   void Start();
+
+  /// Tells those that were connected so that the startup is complete.
+  void CompleteStart();
 
   /// Ends all connections, the latest first. No add-in can be connected any more.
   void Shutdown();
@@ -50,6 +53,7 @@ class AddIns : public AddInList {
   Workbench& workbench_;
   Surface& surface_;
   std::vector<std::shared_ptr<AddIn>> addIns_;
+  std::vector<std::shared_ptr<AddIn>> started_;  // not told of the startup's end yet
   std::deque<ConnectionRecord> records_;
   bool isShutDown_ = false;
 };

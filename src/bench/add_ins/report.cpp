@@ -61,11 +61,11 @@ std::string ReportOf(const std::deque<ConnectionRecord>& records) {
   return report.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-void WriteReport(const std::string& file, const std::deque<ConnectionRecord>& records) {
+void WriteReport(const std::filesystem::path& file, const std::deque<ConnectionRecord>& records) {
   try {
     ReplaceSharedFile(file, ReportOf(records));
   } catch (const std::system_error& error) {
-    throw SourceError(file, error.what());
+    throw SourceError(file.string(), error.what());
   }
 }
 

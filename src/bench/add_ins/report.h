@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <string>
 
 #include "bench/add_ins/connection.h"
@@ -13,8 +14,8 @@ namespace brimwork::bench {
 /// the connections; "connected" is false, and "failure" says why, for one that was refused.
 std::string ReportOf(const std::deque<ConnectionRecord>& records);
 
-/// Writes the report in one step; file is a path in UTF-8. Throws SourceError, naming the file,
+/// Writes the report in one step.  Throws SourceError, naming the file,
 /// when it cannot be written.
-void WriteReport(const std::string& file, const std::deque<ConnectionRecord>& records);
+void WriteReport(const std::filesystem::path& file, const std::deque<ConnectionRecord>& records);
 
 }  // namespace brimwork::bench

@@ -5,21 +5,29 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-#include <exception>
 #include <string>
 #include <vector>
 
-#include "bench/main/arguments.h"
-#include "bench/model/workbench.h"
+#include "bench/automation/application_class.h"
+#include "bench/program/arguments.h"
+#include "bench/program/program.h"
 #include "bench/screen/faults.h"
-#include "bench/screen/screenshot.h"
-#include "bench/screen/workbench_windows.h"
+#include "win32/wide_text.h"
 
 namespace brimwork::bench {
 namespace {
 
 constexpr int kRefused = 2;
 constexpr int kFailed = 1;
+
+/// The main thread's single-threaded apartment.
+class Apartment {
+ public:
+  Apartment() { OleInitialize(nullptr); }
+  ~Apartment() { OleUninitialize(); }
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+};
 
 std::vector<std::wstring> Words() {
   int count = 0;
@@ -29,36 +37,32 @@ std::vector<std::wstring> Words() {
   return all;
 }
 
-int RunMessageLoop(WorkbenchWindows& windows) {
-  MSG message{};
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (windows.TakesKey(message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-  return static_cast<int>(message.wParam);
+std::string OwnPath() {
+  constexpr DWORD kLongestPath = 32768;
+  std::wstring path(kLongestPath, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), kLongestPath));
+  return win32::Narrow(path);
 }
 
-int Run(const Arguments& arguments) {
-  Workbench bench;
-  WorkbenchWindows windows(bench);
-  bench.vbe.commandBars.DisableIdleCommands();
-  windows.Show();
-  if (!arguments.project.empty()) windows.Open(arguments.project);
-  if (!arguments.screenshot) return RunMessageLoop(windows);
-  PumpUntilQuiet();
-  SaveWindowPicture(windows.Frame(), *arguments.screenshot);
-  return 0;
+int Do(const Arguments& arguments) {
+  switch (arguments.job) {
+    case Job::kRegister:
+      RegisterApplicationClass(OwnPath());
+      return 0;
+    case Job::kUnregister:
+      UnregisterApplicationClass();
+      return 0;
+    case Job::kRun:
+      break;
+  }
+  const Apartment apartment;
+  InitCommonControls();
+  return Program(arguments).Run();
 }
 
 int Main() {
   try {
-    const Arguments arguments = ParseArguments(Words());
-    OleInitialize(nullptr);
-    InitCommonControls();
-    const int result = Run(arguments);
-    OleUninitialize();
-    return result;
+    return Do(ParseArguments(Words()));
   } catch (const ArgumentError&) {
     ReportFault(nullptr);
     return kRefused;

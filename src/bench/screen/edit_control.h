@@ -6,18 +6,11 @@
 
 #include <string>
 
+#include "bench/model/text_positions.h"
 #include "bench/screen/edit_history.h"
 #include "environment/code_module.h"
 
 namespace brimwork::bench {
-
-/// The selection in units from the text's start; start is not behind end.
-struct UnitRange {
-  std::size_t start = 0;
-  std::size_t end = 0;
-
-  bool operator==(const UnitRange&) const = default;
-};
 
 std::wstring TextOfControl(HWND control);
 

@@ -1,5 +1,6 @@
 #include "bench/screen/shown_text.h"
 
+#include "bench/model/text_change.h"
 #include "environment/text.h"
 
 namespace brimwork::bench {
@@ -27,35 +28,9 @@ Place PlaceOf(std::string_view text, int offset) {
   return {static_cast<int>(lines.size()), CharacterCount(lines.back()) + 1};
 }
 
-void ReplaceText(MemoryCodeModule& module, std::string_view text) {
-  const auto lines = SplitLines(text);
-  const int before = module.CountOfLines();
-  const int after = text.empty() ? 0 : static_cast<int>(lines.size());
-  int same = 0;
-  while (same < before && same < after && module.Text().Line(same + 1) == lines[same]) ++same;
-  int end = 0;
-  while (end < before - same && end < after - same &&
-         module.Text().Line(before - end) == lines[after - end - 1]) {
-    ++end;
-  }
-  const int removed = before - same - end;
-  const int added = after - same - end;
-  std::string inserted;
-  for (int line = 0; line < added; ++line) {
-    if (line > 0) inserted += "\r\n";
-    inserted += lines[same + line];
-  }
-  if (removed == 1 && added >= 1) {
-    module.ReplaceLine(same + 1, inserted);
-  } else {
-    if (removed > 0) module.DeleteLines(same + 1, removed);
-    if (added > 0) module.InsertLines(same + 1, inserted);
-  }
-}
-
 }  // namespace
 
-void PaneText::SetText(std::string_view text) { ReplaceText(*module_, text); }
+void PaneText::SetText(std::string_view text) { TakeOverText(*module_, text); }
 
 Selection PlainText::GetSelection() {
   const Place start = PlaceOf(text_->Text(), text_->Start());

@@ -40,7 +40,8 @@ class Expected {
 
   std::vector<std::string> Lines() {
     const auto project = workbench_.ActiveProject();
-    const auto stock = std::static_pointer_cast<WorkComponent>(project->ComponentOfName("modStock"));
+    const auto stock =
+        std::static_pointer_cast<WorkComponent>(project->ComponentOfName("modStock"));
     ShowProject(*project);
     ShowProcedures(*stock->Module());
     EditModule(*stock->Module());
@@ -173,13 +174,11 @@ TEST(BenchDrivenByVbScript, SaysWhatTheModelSays) {
   fs::copy(fs::path(BRIMWORK_SOURCE_DIR) / "samples", folder / "samples",
            fs::copy_options::recursive);
   const fs::path project = folder / "samples" / "WorkshopDesk.vbp";
-  const fs::path script =
-      fs::path(BRIMWORK_SOURCE_DIR) / "tests/bench/acceptance/object_model.vbs";
+  const fs::path script = fs::path(BRIMWORK_SOURCE_DIR) / "tests/bench/acceptance/object_model.vbs";
   ASSERT_EQ(RunProgram({PathForPrograms(BRIMWORK_BENCH), "/regserver"}).exitCode, 0);
 
   const ProgramRun run =
-      RunProgram(
-      {"cscript.exe", "//nologo", PathForPrograms(script), PathForPrograms(project)});
+      RunProgram({"cscript.exe", "//nologo", PathForPrograms(script), PathForPrograms(project)});
 
   EXPECT_EQ(RunProgram({PathForPrograms(BRIMWORK_BENCH), "/unregserver"}).exitCode, 0);
   EXPECT_EQ(run.exitCode, 0) << run.output;

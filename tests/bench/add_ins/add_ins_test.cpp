@@ -50,6 +50,8 @@ TEST_F(AddInsOfTheBench, AreFoundInTheRegistry) {
 TEST_F(AddInsOfTheBench, AreToldOfStartAndShutdownInOrder) {
   AddIns addIns(workbench, surface);
   addIns.Start();
+  EXPECT_THAT(quiet.calls, ElementsAre("OnConnection 1"));
+  addIns.CompleteStart();
   EXPECT_THAT(quiet.calls, ElementsAre("OnConnection 1", "OnStartupComplete"));
   quiet.calls.clear();
   addIns.Shutdown();

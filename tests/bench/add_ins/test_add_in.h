@@ -74,8 +74,8 @@ class TestAddInObject final : public IExtensibility {
 
  private:
   void Note(const std::string& call, SAFEARRAY** custom) {
-    const bool isEmptyArray = custom != nullptr && *custom != nullptr &&
-                              (*custom)->cDims == 1 && (*custom)->rgsabound[0].cElements == 0;
+    const bool isEmptyArray = custom != nullptr && *custom != nullptr && (*custom)->cDims == 1 &&
+                              (*custom)->rgsabound[0].cElements == 0;
     behaviour_.calls.push_back(isEmptyArray ? call : call + " without its array");
   }
 

@@ -57,9 +57,9 @@ class Client {
     DISPPARAMS parameters{reversed.data(), named.data(), static_cast<UINT>(reversed.size()),
                           static_cast<UINT>(named.size())};
     Answer answer;
-    answer.result = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kinds, &parameters,
-                                    answer.value.Receive(), &answer.exception,
-                                    &answer.faultyArgument);
+    answer.result =
+        object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kinds, &parameters,
+                        answer.value.Receive(), &answer.exception, &answer.faultyArgument);
     return answer;
   }
 

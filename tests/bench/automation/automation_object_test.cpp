@@ -77,10 +77,9 @@ TEST_F(AutomationObject, TakesArgumentsByPlaceOrByName) {
   EXPECT_EQ(Module().Invoke(lines, DISPATCH_PROPERTYGET, {Variant(2), Variant(1)}).value.ToText(),
             "Sub First()");
   // Named ones come first in the client's list: Count (1), then StartLine (0).
-  EXPECT_EQ(Module()
-                .Invoke(lines, DISPATCH_PROPERTYGET, {Variant(2), Variant(1)}, {1, 0})
-                .value.ToText(),
-            "Sub First()");
+  EXPECT_EQ(
+      Module().Invoke(lines, DISPATCH_PROPERTYGET, {Variant(2), Variant(1)}, {1, 0}).value.ToText(),
+      "Sub First()");
 }
 
 TEST_F(AutomationObject, LetsOptionalArgumentsBeLeftOutOrMissing) {

@@ -21,8 +21,8 @@ constexpr IID kSource = {0x0002E198, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 class Sink : public IDispatch {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-    const bool isOne = IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IDispatch) ||
-                       IsEqualIID(iid, kSource);
+    const bool isOne =
+        IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IDispatch) || IsEqualIID(iid, kSource);
     *object = isOne ? this : nullptr;
     if (isOne) AddRef();
     return isOne ? S_OK : E_NOINTERFACE;
@@ -129,8 +129,7 @@ TEST_F(ClickEvents, HaveOnePointAndNoOther) {
   const auto events = EventsOf(*button);
   const auto container = events.As<IConnectionPointContainer>(IID_IConnectionPointContainer);
   ComPointer<IConnectionPoint> none;
-  EXPECT_EQ(container->FindConnectionPoint(IID_IDispatch, none.Receive()),
-            CONNECT_E_NOCONNECTION);
+  EXPECT_EQ(container->FindConnectionPoint(IID_IDispatch, none.Receive()), CONNECT_E_NOCONNECTION);
   ComPointer<IEnumConnectionPoints> points;
   ASSERT_EQ(container->EnumConnectionPoints(points.Receive()), S_OK);
   ComPointer<IConnectionPoint> point;

@@ -25,8 +25,8 @@ constexpr unsigned long kNewEnum = static_cast<unsigned long>(DISPID_NEWENUM);
 bool Has(const Client& object, const Expected& member, WORD kind, bool assigns) {
   const std::vector<Variant> tooMany(10, Variant::Missing());
   const auto id = static_cast<DISPID>(member.id);
-  const std::vector<DISPID> named = assigns ? std::vector<DISPID>{DISPID_PROPERTYPUT}
-                                            : std::vector<DISPID>{};
+  const std::vector<DISPID> named =
+      assigns ? std::vector<DISPID>{DISPID_PROPERTYPUT} : std::vector<DISPID>{};
   return object.Invoke(id, kind, tooMany, named).result != DISP_E_MEMBERNOTFOUND;
 }
 
@@ -231,26 +231,17 @@ TEST_F(Members, OfCommandBars) {
 }
 
 TEST_F(Members, OfACommandBar) {
-  ExpectMembers(NewBar(), {{L"BuiltIn", 0x60040000, kGet},
-                           {L"Controls", 0x60040003, kGet},
-                           {L"Delete", 0x60040004, kMethod},
-                           {L"Enabled", 0x60040005, kGetPut},
-                           {L"FindControl", 0x60040007, kMethod},
-                           {L"Height", 0x60040008, kGet},
-                           {L"Index", 0x6004000A, kGet},
-                           {L"Left", 0x6004000C, kGetPut},
-                           {L"Name", 0x6004000E, kGetPut},
-                           {L"NameLocal", 0x60040010, kGetPut},
-                           {L"Parent", 0x60040012, kGet},
-                           {L"Position", 0x60040013, kGetPut},
-                           {L"RowIndex", 0x60040015, kGetPut},
-                           {L"Protection", 0x60040017, kGetPut},
-                           {L"Reset", 0x60040019, kMethod},
-                           {L"ShowPopup", 0x6004001A, kMethod},
-                           {L"Top", 0x6004001B, kGetPut},
-                           {L"Type", 0x6004001D, kGet},
-                           {L"Visible", 0x6004001E, kGetPut},
-                           {L"Width", 0x60040020, kGet}});
+  ExpectMembers(NewBar(),
+                {{L"BuiltIn", 0x60040000, kGet},        {L"Controls", 0x60040003, kGet},
+                 {L"Delete", 0x60040004, kMethod},      {L"Enabled", 0x60040005, kGetPut},
+                 {L"FindControl", 0x60040007, kMethod}, {L"Height", 0x60040008, kGet},
+                 {L"Index", 0x6004000A, kGet},          {L"Left", 0x6004000C, kGetPut},
+                 {L"Name", 0x6004000E, kGetPut},        {L"NameLocal", 0x60040010, kGetPut},
+                 {L"Parent", 0x60040012, kGet},         {L"Position", 0x60040013, kGetPut},
+                 {L"RowIndex", 0x60040015, kGetPut},    {L"Protection", 0x60040017, kGetPut},
+                 {L"Reset", 0x60040019, kMethod},       {L"ShowPopup", 0x6004001A, kMethod},
+                 {L"Top", 0x6004001B, kGetPut},         {L"Type", 0x6004001D, kGet},
+                 {L"Visible", 0x6004001E, kGetPut},     {L"Width", 0x60040020, kGet}});
 }
 
 TEST_F(Members, OfControls) {
@@ -262,19 +253,19 @@ TEST_F(Members, OfControls) {
 }
 
 const std::vector<Expected> kOfEveryControl = {
-    {L"BeginGroup", 0x60040000, kGetPut},  {L"BuiltIn", 0x60040002, kGet},
-    {L"Caption", 0x60040003, kGetPut},     {L"Copy", 0x60040006, kMethod},
-    {L"Delete", 0x60040007, kMethod},      {L"DescriptionText", 0x60040008, kGetPut},
-    {L"Enabled", 0x6004000A, kGetPut},     {L"Execute", 0x6004000C, kMethod},
-    {L"Height", 0x6004000D, kGet},         {L"Id", 0x60040013, kGet},
-    {L"Index", 0x60040014, kGet},          {L"Move", 0x60040016, kMethod},
-    {L"Left", 0x60040017, kGet},           {L"OLEUsage", 0x60040018, kGetPut},
-    {L"OnAction", 0x6004001A, kGetPut},    {L"Parent", 0x6004001C, kGet},
-    {L"Parameter", 0x6004001D, kGetPut},   {L"Priority", 0x6004001F, kGetPut},
-    {L"Reset", 0x60040021, kMethod},       {L"SetFocus", 0x60040022, kMethod},
-    {L"Tag", 0x60040023, kGetPut},         {L"TooltipText", 0x60040025, kGetPut},
-    {L"Top", 0x60040027, kGet},            {L"Type", 0x60040028, kGet},
-    {L"Visible", 0x60040029, kGetPut},     {L"Width", 0x6004002B, kGet}};
+    {L"BeginGroup", 0x60040000, kGetPut}, {L"BuiltIn", 0x60040002, kGet},
+    {L"Caption", 0x60040003, kGetPut},    {L"Copy", 0x60040006, kMethod},
+    {L"Delete", 0x60040007, kMethod},     {L"DescriptionText", 0x60040008, kGetPut},
+    {L"Enabled", 0x6004000A, kGetPut},    {L"Execute", 0x6004000C, kMethod},
+    {L"Height", 0x6004000D, kGet},        {L"Id", 0x60040013, kGet},
+    {L"Index", 0x60040014, kGet},         {L"Move", 0x60040016, kMethod},
+    {L"Left", 0x60040017, kGet},          {L"OLEUsage", 0x60040018, kGetPut},
+    {L"OnAction", 0x6004001A, kGetPut},   {L"Parent", 0x6004001C, kGet},
+    {L"Parameter", 0x6004001D, kGetPut},  {L"Priority", 0x6004001F, kGetPut},
+    {L"Reset", 0x60040021, kMethod},      {L"SetFocus", 0x60040022, kMethod},
+    {L"Tag", 0x60040023, kGetPut},        {L"TooltipText", 0x60040025, kGetPut},
+    {L"Top", 0x60040027, kGet},           {L"Type", 0x60040028, kGet},
+    {L"Visible", 0x60040029, kGetPut},    {L"Width", 0x6004002B, kGet}};
 
 TEST_F(Members, OfAButton) {
   const Client button = NewBar().Object(L"Controls").Object(L"Add");

@@ -9,9 +9,13 @@
 
 namespace brimwork::bench {
 
+enum class Job { kRun, kRegister, kUnregister };
+
 struct Arguments {
+  Job job = Job::kRun;
   std::filesystem::path project;                    // "" for none
   std::optional<std::filesystem::path> screenshot;  // where it goes
+  std::optional<std::filesystem::path> report;      // on the add-ins
 };
 
 /// A command line that is not understood; what() says why and how it is meant.
