@@ -16,7 +16,7 @@ win32::Variant AddInsOf(Call& call) {
   return call.TheSession().ObjectFor(kAddIns, list);
 }
 
-namespace {
+namespace add_in_interface {
 
 using win32::Variant;
 
@@ -73,9 +73,9 @@ constexpr Member kAddInMembers[] = {
     GetSet(L"Object", 0x7, Object, SetObject),
 };
 
-}  // namespace
+}  // namespace add_in_interface
 
-constinit const InterfaceTable kAddIns{"Addins", iid::kAddIns, kAddInsMembers};
-constinit const InterfaceTable kAddIn{"AddIn", iid::kAddIn, kAddInMembers};
+constinit const InterfaceTable kAddIns{"Addins", iid::kAddIns, add_in_interface::kAddInsMembers};
+constinit const InterfaceTable kAddIn{"AddIn", iid::kAddIn, add_in_interface::kAddInMembers};
 
 }  // namespace brimwork::bench

@@ -11,7 +11,7 @@
 #include "memory/utf8_path.h"
 
 namespace brimwork::bench {
-namespace {
+namespace code_module_interface {
 
 using win32::Variant;
 
@@ -144,8 +144,9 @@ constexpr Member kMembers[] = {
     Get(L"Members", 0x60020013, NotOffered),
 };
 
-}  // namespace
+}  // namespace code_module_interface
 
-constinit const InterfaceTable kCodeModule{"CodeModule", iid::kCodeModule, kMembers};
+constinit const InterfaceTable kCodeModule{"CodeModule", iid::kCodeModule,
+                                           code_module_interface::kMembers};
 
 }  // namespace brimwork::bench

@@ -4,7 +4,7 @@
 #include "bench/automation/interfaces.h"
 
 namespace brimwork::bench {
-namespace {
+namespace code_pane_interface {
 
 using win32::Variant;
 
@@ -103,9 +103,11 @@ constexpr Member kCodePaneMembers[] = {
     Get(L"CodePaneView", 0x6002000A, FullModuleView),
 };
 
-}  // namespace
+}  // namespace code_pane_interface
 
-constinit const InterfaceTable kCodePanes{"CodePanes", iid::kCodePanes, kCodePanesMembers};
-constinit const InterfaceTable kCodePane{"CodePane", iid::kCodePane, kCodePaneMembers};
+constinit const InterfaceTable kCodePanes{"CodePanes", iid::kCodePanes,
+                                          code_pane_interface::kCodePanesMembers};
+constinit const InterfaceTable kCodePane{"CodePane", iid::kCodePane,
+                                         code_pane_interface::kCodePaneMembers};
 
 }  // namespace brimwork::bench

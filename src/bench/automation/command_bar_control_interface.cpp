@@ -5,7 +5,7 @@
 #include "environment/text.h"
 
 namespace brimwork::bench {
-namespace {
+namespace command_bar_control_interface {
 
 using win32::Variant;
 
@@ -270,15 +270,17 @@ constexpr Member kPopupMembers[] = {
            SetNumber<&ControlDetails::oleMenuGroup>),
 };
 
-}  // namespace
+}  // namespace command_bar_control_interface
 
 constinit const InterfaceTable kCommandBarControls{"CommandBarControls", iid::kCommandBarControls,
-                                                   kControlsMembers};
+                                                   command_bar_control_interface::kControlsMembers};
 constinit const InterfaceTable kCommandBarControl{"CommandBarControl", iid::kCommandBarControl,
-                                                  kControlMembers};
+                                                  command_bar_control_interface::kControlMembers};
 constinit const InterfaceTable kCommandBarButton{"CommandBarButton", iid::kCommandBarButton,
-                                                 kButtonMembers, &kCommandBarControl};
+                                                 command_bar_control_interface::kButtonMembers,
+                                                 &kCommandBarControl};
 constinit const InterfaceTable kCommandBarPopup{"CommandBarPopup", iid::kCommandBarPopup,
-                                                kPopupMembers, &kCommandBarControl};
+                                                command_bar_control_interface::kPopupMembers,
+                                                &kCommandBarControl};
 
 }  // namespace brimwork::bench

@@ -5,7 +5,7 @@
 #include "environment/text.h"
 
 namespace brimwork::bench {
-namespace {
+namespace command_bars_interface {
 
 using win32::Variant;
 
@@ -163,9 +163,11 @@ constexpr Member kCommandBarMembers[] = {
     Get(L"Width", 0x60040020, Width),
 };
 
-}  // namespace
+}  // namespace command_bars_interface
 
-constinit const InterfaceTable kCommandBars{"CommandBars", iid::kCommandBars, kCommandBarsMembers};
-constinit const InterfaceTable kCommandBar{"CommandBar", iid::kCommandBar, kCommandBarMembers};
+constinit const InterfaceTable kCommandBars{"CommandBars", iid::kCommandBars,
+                                            command_bars_interface::kCommandBarsMembers};
+constinit const InterfaceTable kCommandBar{"CommandBar", iid::kCommandBar,
+                                           command_bars_interface::kCommandBarMembers};
 
 }  // namespace brimwork::bench

@@ -8,7 +8,7 @@
 #include "memory/utf8_path.h"
 
 namespace brimwork::bench {
-namespace {
+namespace component_interface {
 
 using win32::Variant;
 
@@ -123,10 +123,11 @@ constexpr Member kVbComponentMembers[] = {
     Get(L"DesignerID", 0x3F, NotOffered),
 };
 
-}  // namespace
+}  // namespace component_interface
 
 constinit const InterfaceTable kVbComponents{"VBComponents", iid::kVbComponents,
-                                             kVbComponentsMembers};
-constinit const InterfaceTable kVbComponent{"VBComponent", iid::kVbComponent, kVbComponentMembers};
+                                             component_interface::kVbComponentsMembers};
+constinit const InterfaceTable kVbComponent{"VBComponent", iid::kVbComponent,
+                                            component_interface::kVbComponentMembers};
 
 }  // namespace brimwork::bench

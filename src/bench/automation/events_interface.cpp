@@ -4,7 +4,7 @@
 #include "bench/automation/interfaces.h"
 
 namespace brimwork::bench {
-namespace {
+namespace events_interface {
 
 win32::Variant CommandBarEventsOf(Call& call) {
   return NewClickEvents(call.TheSession(),
@@ -24,8 +24,8 @@ constexpr Member kMembers[] = {
     Get(L"FileControlEvents", 0xCE, NotOffered, kProject),
 };
 
-}  // namespace
+}  // namespace events_interface
 
-constinit const InterfaceTable kEvents{"Events", iid::kEvents, kMembers};
+constinit const InterfaceTable kEvents{"Events", iid::kEvents, events_interface::kMembers};
 
 }  // namespace brimwork::bench

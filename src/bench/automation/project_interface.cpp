@@ -8,7 +8,7 @@
 #include "memory/utf8_path.h"
 
 namespace brimwork::bench {
-namespace {
+namespace project_interface {
 
 using win32::Variant;
 
@@ -112,9 +112,11 @@ constexpr Member kVbProjectMembers[] = {
     Get(L"BuildFileName", 0x88, BuildFileName),
 };
 
-}  // namespace
+}  // namespace project_interface
 
-constinit const InterfaceTable kVbProjects{"VBProjects", iid::kVbProjects, kVbProjectsMembers};
-constinit const InterfaceTable kVbProject{"VBProject", iid::kVbProject, kVbProjectMembers};
+constinit const InterfaceTable kVbProjects{"VBProjects", iid::kVbProjects,
+                                           project_interface::kVbProjectsMembers};
+constinit const InterfaceTable kVbProject{"VBProject", iid::kVbProject,
+                                          project_interface::kVbProjectMembers};
 
 }  // namespace brimwork::bench

@@ -5,7 +5,7 @@
 #include "environment/run_time_error.h"
 
 namespace brimwork::bench {
-namespace {
+namespace vbe_interface {
 
 using win32::Variant;
 
@@ -86,8 +86,8 @@ constexpr Member kMembers[] = {
     Get(L"DisplayModel", 0xD0, DisplayModel),
 };
 
-}  // namespace
+}  // namespace vbe_interface
 
-constinit const InterfaceTable kVbe{"VBE", iid::kVbe, kMembers};
+constinit const InterfaceTable kVbe{"VBE", iid::kVbe, vbe_interface::kMembers};
 
 }  // namespace brimwork::bench

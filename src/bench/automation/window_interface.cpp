@@ -5,7 +5,7 @@
 #include "environment/text.h"
 
 namespace brimwork::bench {
-namespace {
+namespace window_interface {
 
 using win32::Variant;
 
@@ -103,9 +103,10 @@ constexpr Member kWindowMembers[] = {
     Get(L"HWnd", 0x78, Handle),
 };
 
-}  // namespace
+}  // namespace window_interface
 
-constinit const InterfaceTable kWindows{"Windows", iid::kWindows, kWindowsMembers};
-constinit const InterfaceTable kWindow{"Window", iid::kWindow, kWindowMembers};
+constinit const InterfaceTable kWindows{"Windows", iid::kWindows,
+                                        window_interface::kWindowsMembers};
+constinit const InterfaceTable kWindow{"Window", iid::kWindow, window_interface::kWindowMembers};
 
 }  // namespace brimwork::bench

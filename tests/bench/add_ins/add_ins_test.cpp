@@ -20,9 +20,6 @@ using win32::ComPointer;
 
 class AddInsOfTheBench : public ::testing::Test {
  protected:
-  AddInsOfTheBench() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-  ~AddInsOfTheBench() override { CoUninitialize(); }
-
   std::shared_ptr<AddIn> Known(const AddIns& all, const std::string& progId) {
     for (const auto& addIn : all.All()) {
       if (addIn->ProgId() == progId) return addIn;
@@ -31,6 +28,7 @@ class AddInsOfTheBench : public ::testing::Test {
     return nullptr;
   }
 
+  const Apartment apartment;
   Workbench workbench;
   BareSurface surface;
   TestAddIn quiet;

@@ -16,6 +16,15 @@
 
 namespace brimwork::bench {
 
+/// The thread's apartment, in which classes are offered.
+class Apartment {
+ public:
+  Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+  ~Apartment() { CoUninitialize(); }
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+};
+
 /// What the environment told an add-in, and how the add-in answers.
 struct TestAddIn {
   std::vector<std::string> calls;
