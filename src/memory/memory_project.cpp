@@ -16,23 +16,23 @@ bool IsInName(char c) {
   return (upper >= 'A' && upper <= 'Z') || IsDigit(c) || c == '_' || (c & '\x80') != 0;
 }
 
-bool IsName(std::string_view text) {
-  return !text.empty() && !IsDigit(text[0]) && text[0] != '_' &&
-         std::ranges::all_of(text, IsInName);
-}
-
 std::string_view StemOf(int type) {
   return type == component_type::kClassModule ? "Class" : "Module";
 }
 
 }  // namespace
 
+bool IsComponentName(std::string_view text) {
+  return !text.empty() && !IsDigit(text[0]) && text[0] != '_' &&
+         std::ranges::all_of(text, IsInName);
+}
+
 MemoryComponent::MemoryComponent(std::string name, int type,
                                  std::shared_ptr<MemoryCodeModule> module)
     : name_(std::move(name)), type_(type), module_(std::move(module)) {}
 
 void MemoryComponent::SetName(std::string_view name) {
-  if (!IsName(name)) {
+  if (!IsComponentName(name)) {
     throw RunTimeError(error_number::kInvalidProcedureCall,
                        '"' + std::string(name) + "\" is no name for a component");
   }

@@ -14,6 +14,9 @@ namespace brimwork {
 
 class MemoryProject;
 
+/// Whether text can name a component: letters, digits and underscores, a letter first.
+bool IsComponentName(std::string_view text);
+
 class MemoryComponent : public VBComponent {
  public:
   /// module: null for a component without code.

@@ -59,16 +59,20 @@ fs::path ProjectDocument::FileOf(const ProjectEntry& entry) const {
 }
 
 void ProjectDocument::Write(std::string text) {
-  std::string bytes;
-  try {
-    codec_.Encode(text, bytes);
-  } catch (const TextCodecError& error) {
-    const TextPosition position = PositionBehind(std::string_view(text).substr(0, error.Offset()));
-    throw SourceError(path_.string(), position.line, position.column, error.what());
-  }
+  const std::string bytes = Encoded(text);
   WriteWholeFile(path_.string(), snapshot_, [&](const ByteSink& sink) { sink(bytes); });
   text_ = std::move(text);
   snapshot_ = LookAtFile(path_.string()).value_or(FileSnapshot{});
+}
+
+std::string ProjectDocument::Encoded(std::string_view text) {
+  try {
+    std::string room;
+    return std::string(codec_.Encode(text, room));
+  } catch (const TextCodecError& error) {
+    const TextPosition position = PositionBehind(text.substr(0, error.Offset()));
+    throw SourceError(path_.string(), position.line, position.column, error.what());
+  }
 }
 
 }  // namespace brimwork::bench

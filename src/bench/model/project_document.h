@@ -44,6 +44,8 @@ class ProjectDocument {
  private:
   ProjectDocument(std::filesystem::path path, SourceText source, FileSnapshot snapshot);
 
+  std::string Encoded(std::string_view text);
+
   std::filesystem::path path_;
   TextCodec codec_;
   std::string text_;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "bench/model/component_file.h"
+#include "bench/model/project_changes.h"
 #include "memory/memory_project.h"
 
 namespace brimwork::bench {
@@ -16,8 +17,8 @@ class WorkComponent : public MemoryComponent {
   /// One with code. file's text is in the module.
   WorkComponent(int type, std::shared_ptr<MemoryCodeModule> module, ComponentFile file);
 
-  /// One without code: a resource file or a related document.
-  WorkComponent(int type, std::filesystem::path path);
+  /// One without code: a resource file or a related document, under its file's name.
+  WorkComponent(int type, std::string name, std::filesystem::path path);
 
   void SetName(std::string_view name) override;
 
@@ -35,19 +36,32 @@ class WorkComponent : public MemoryComponent {
   /// a path.
   void Save();
 
-  /// Writes another file, which is the component's from now on; what it lays out in a file of its
-  /// own goes along. Throws SourceError.
+  /// Writes another file, which is the component's from now on; what is there is replaced. Pictures
+  /// that a form keeps in a file beside its own go along. Raises error 438 for one without code,
+  /// throws SourceError.
   void SaveAs(const std::filesystem::path& path);
 
   /// The same for a file that must not be there yet.
   void SaveAsNew(const std::filesystem::path& path);
 
-  /// What Property pages show of it.
+  /// How its project's file lists it; no file while it does not.
+  const Listing& Listed() const { return listed_; }
+  void SetListed(Listing listing);
+
+  /// How a project file in that folder is to list it.
+  Listing ListingIn(const std::filesystem::path& folder) const;
+
+  /// What Property pages show of it. Only the file's VB_Description gives it; a change is not
+  /// saved.
   std::string description;
 
  private:
+  ComponentFile& FileWithCode() const;
+
   std::unique_ptr<ComponentFile> file_;  // null for one without code
   std::filesystem::path path_;           // of one without code
+  Listing listed_;
+  std::filesystem::path listedPath_;  // what listed_ means
 };
 
 }  // namespace brimwork::bench

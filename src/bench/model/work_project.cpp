@@ -5,10 +5,12 @@
 #include <utility>
 
 #include "bench/model/component_kind.h"
-#include "bench/model/project_document.h"
 #include "environment/run_time_error.h"
 #include "environment/text.h"
+#include "memory/listed_path.h"
+#include "memory/project_lines.h"
 #include "memory/source_error.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork::bench {
 namespace {
@@ -36,6 +38,11 @@ std::shared_ptr<WorkComponent> ComponentIn(ComponentFile file, int type) {
   return std::make_shared<WorkComponent>(ownType, std::move(module), std::move(file));
 }
 
+/// What the file of a new component is called.
+std::string NewFileName(const WorkComponent& component) {
+  return component.LastName() + std::string(KindOfType(component.Kind()).extension);
+}
+
 std::string NameOf(const ProjectDocument& document) {
   const std::string name = document.Value("Name");
   return name.empty() ? document.Path().stem().string() : name;
@@ -46,47 +53,67 @@ std::string NameOf(const ProjectDocument& document) {
 WorkProject::WorkProject(std::string name)
     : MemoryProject([this] { return projectName_; }), projectName_(std::move(name)) {}
 
+WorkProject::WorkProject(ProjectDocument document) : WorkProject(NameOf(document)) {
+  document_ = std::make_unique<ProjectDocument>(std::move(document));
+  type_ = TypeOf(document_->Value("Type"));
+  description = document_->Value("Description");
+  helpFile = document_->Value("HelpFile");
+}
+
 std::shared_ptr<WorkProject> WorkProject::Read(const fs::path& path) {
-  const ProjectDocument document = ProjectDocument::Read(path);
-  auto project = std::make_shared<WorkProject>(NameOf(document));
-  project->path_ = path;
-  project->type_ = TypeOf(document.Value("Type"));
-  project->description = document.Value("Description");
-  project->helpFile = document.Value("HelpFile");
-  for (const ProjectEntry& entry : document.Entries()) {
-    if (HasCode(entry.type)) {
-      project->Add(ComponentIn(ComponentFile::Read(document.FileOf(entry)), entry.type));
-    } else {
-      project->Add(std::make_shared<WorkComponent>(entry.type, entry.file));
-    }
-  }
+  auto project = std::make_shared<WorkProject>(ProjectDocument::Read(path));
+  for (const ProjectEntry& entry : project->document_->Entries()) project->AddListed(entry);
   return project;
 }
 
 std::shared_ptr<WorkProject> WorkProject::OfFile(const fs::path& path) {
-  const ComponentKind* kind = KindOfExtension(path.extension().string());
-  if (kind == nullptr) {
-    throw SourceError(path.string(),
-                      "this is no project and no source file; name a .vbp, .vbg, .bas, .cls, .frm, "
-                      ".ctl, .pag, .dob or .dsr file");
-  }
   auto project = std::make_shared<WorkProject>(kUsualName);
-  project->Add(ComponentIn(ComponentFile::Read(path), kind->type));
+  project->AddFile(path);
   return project;
 }
 
 void WorkProject::SetName(std::string_view name) {
+  if (!IsComponentName(name)) {
+    throw RunTimeError(error_number::kInvalidProcedureCall,
+                       '"' + std::string(name) + "\" is no name for a project");
+  }
   projectName_ = name;
   if (onChange) onChange();
 }
 
+fs::path WorkProject::Path() const { return document_ ? document_->Path() : fs::path(); }
+
 bool WorkProject::IsDirty() const {
-  return std::ranges::any_of(components_,
-                             [](const auto& component) { return component->IsDirty(); });
+  return IsFileDirty() || std::ranges::any_of(components_, [](const auto& component) {
+           return component->IsDirty();
+         });
 }
 
 void WorkProject::Save() {
-  for (const auto& component : components_) component->Save();
+  const auto components = components_;
+  for (const auto& component : components) {
+    const bool isNew = component->Code() != nullptr && component->Path().empty();
+    if (isNew) component->SaveAsNew(Folder() / PathOf(NewFileName(*component)));
+    component->Save();
+  }
+  if (IsFileDirty()) SaveFile();
+  if (onChange) onChange();
+}
+
+std::shared_ptr<WorkComponent> WorkProject::AddFile(const fs::path& path) {
+  const ComponentKind* kind = KindOfExtension(path.extension().string());
+  if (kind == nullptr) {
+    throw SourceError(path.string(),
+                      "this is no source file; name a .bas, .cls, .frm, .ctl, .pag, .dob or .dsr "
+                      "file");
+  }
+  auto component = ComponentIn(ComponentFile::Read(path), kind->type);
+  if (ComponentOfName(component->LastName()) != nullptr) {
+    throw RunTimeError(error_number::kNameConflict,
+                       "another component has the name \"" + component->LastName() + '"');
+  }
+  Add(component);
+  return component;
 }
 
 std::shared_ptr<MemoryComponent> WorkProject::Make(std::string name, int type,
@@ -108,12 +135,77 @@ void WorkProject::NoteRenamed(MemoryComponent&) {
   if (onChange) onChange();
 }
 
+void WorkProject::AddListed(const ProjectEntry& entry) {
+  auto component = HasCode(entry.type) ? CodeListed(entry) : FileListed(entry);
+  component->SetListed({component->LastName(), entry.file});
+  Add(std::move(component));
+}
+
+std::shared_ptr<WorkComponent> WorkProject::CodeListed(const ProjectEntry& entry) const {
+  auto component = ComponentIn(ComponentFile::Read(document_->FileOf(entry)), entry.type);
+  if (ComponentOfName(component->LastName()) == nullptr) return component;
+  throw SourceError(Path().string(), entry.line, 1,
+                    "another component has the name \"" + component->LastName() + '"');
+}
+
+/// A file that the project only lists need not be there.
+std::shared_ptr<WorkComponent> WorkProject::FileListed(const ProjectEntry& entry) const {
+  return std::make_shared<WorkComponent>(entry.type, std::string(ListedFileName(entry.file)),
+                                         ResolveListedPath(Folder(), entry.file).path);
+}
+
 void WorkProject::Refresh() {
   components_.clear();
   for (const auto& component : All()) {
     components_.push_back(std::static_pointer_cast<WorkComponent>(component));
   }
   if (onChange) onChange();
+}
+
+/// Where new files go.
+fs::path WorkProject::Folder() const {
+  if (document_) return document_->Path().parent_path();
+  for (const auto& component : components_) {
+    if (!component->Path().empty()) return component->Path().parent_path();
+  }
+  return fs::current_path();
+}
+
+std::vector<ComponentListing> WorkProject::Listings() const {
+  std::vector<ComponentListing> listings;
+  const fs::path folder = Folder();
+  for (const auto& component : components_) {
+    listings.push_back({component->Kind(), component->Listed(), component->ListingIn(folder)});
+  }
+  return listings;
+}
+
+bool WorkProject::IsFileDirty() const {
+  if (!document_) return false;
+  const std::vector<ComponentListing> listings = Listings();
+  return projectName_ != NameOf(*document_) || description != document_->Value("Description") ||
+         helpFile != document_->Value("HelpFile") ||
+         listings.size() != document_->Entries().size() ||
+         std::ranges::any_of(listings, [](const ComponentListing& listing) {
+           return listing.before != listing.now;
+         });
+}
+
+std::string WorkProject::FileText(const std::vector<ComponentListing>& listings) const {
+  std::string text = WithListings(document_->Text(), listings);
+  const auto put = [&](std::string_view key, const std::string& before, const std::string& now) {
+    if (before != now) text = WithProjectValue(text, key, now);
+  };
+  put("Name", NameOf(*document_), projectName_);
+  put("Description", document_->Value("Description"), description);
+  put("HelpFile", document_->Value("HelpFile"), helpFile);
+  return text;
+}
+
+void WorkProject::SaveFile() {
+  const std::vector<ComponentListing> listings = Listings();
+  document_->Write(FileText(listings));
+  for (std::size_t i = 0; i < listings.size(); ++i) components_[i]->SetListed(listings[i].now);
 }
 
 }  // namespace brimwork::bench
