@@ -112,8 +112,8 @@ std::shared_ptr<MemoryCommandBarControl> MemoryCommandBarControls::Find(
 }
 
 std::shared_ptr<MemoryCommandBarControl> MemoryCommandBarControls::AddBuiltIn(
-    int id, std::string_view caption, std::function<void()> action) {
-  const auto control = Insert({.id = id, .isTemporary = false}, nullptr);
+    int id, std::string_view caption, std::function<void()> action, int before) {
+  const auto control = Insert({.id = id, .before = before, .isTemporary = false}, nullptr);
   control->SetCommand(id);
   control->SetCaption(caption);
   control->action = std::move(action);

@@ -44,7 +44,8 @@ class MemoryCommandBarControls : public CommandBarControls {
 
   /// Adds one of the environment's own commands; action may be empty.
   std::shared_ptr<MemoryCommandBarControl> AddBuiltIn(int id, std::string_view caption,
-                                                      std::function<void()> action = {});
+                                                      std::function<void()> action = {},
+                                                      int before = 0);
   std::shared_ptr<MemoryCommandBarControl> AddBuiltInPopup(std::string_view caption);
   /// Adds a popup that shows the entries of a bar.
   std::shared_ptr<MemoryCommandBarControl> AddMenu(std::string_view caption,

@@ -91,13 +91,15 @@ bool WorkProject::IsDirty() const {
 
 void WorkProject::Save() {
   const auto components = components_;
-  for (const auto& component : components) {
-    const bool isNew = component->Code() != nullptr && component->Path().empty();
-    if (isNew) component->SaveAsNew(Folder() / PathOf(NewFileName(*component)));
-    component->Save();
-  }
+  for (const auto& component : components) Save(*component);
   if (IsFileDirty()) SaveFile();
   if (onChange) onChange();
+}
+
+void WorkProject::Save(WorkComponent& component) {
+  if (component.Code() == nullptr) return;
+  if (!component.Path().empty()) return component.Save();
+  component.SaveAsNew(Folder() / PathOf(NewFileName(component)));
 }
 
 std::shared_ptr<WorkComponent> WorkProject::AddFile(const fs::path& path) {

@@ -43,6 +43,9 @@ class WorkProject : public MemoryProject {
   /// stays changed.
   void Save();
 
+  /// The same for one of its components alone; a new one is not listed before the project is saved.
+  void Save(WorkComponent& component);
+
   /// Makes the file a component of the project and hands it back; the file is left as it is. Raises
   /// error 32813 for a name that another component has, throws SourceError for what cannot be read.
   std::shared_ptr<WorkComponent> AddFile(const std::filesystem::path& path);

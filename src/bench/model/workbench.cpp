@@ -5,20 +5,30 @@
 
 #include "bench/model/opened_projects.h"
 #include "bench/model/window_captions.h"
+#include "bench/model/workbench_commands.h"
+#include "environment/run_time_error.h"
+#include "memory/source_error.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork::bench {
 
 namespace fs = std::filesystem;
 
-Workbench::Workbench() : windows(AddUsualWindows(vbe)) {
+Workbench::Workbench()
+    : windows(AddUsualWindows(vbe)),
+      recent_(bars.file, [this](const std::string& path) { OpenRecent(path); }) {
   vbe.windows.OnActivate([this](MemoryWindow& window) { NoteActivation(window); });
   vbe.windows.OnRemove([this](MemoryWindow& window) { NoteRemoval(window); });
+  SetUsualActions(*this);
   ShowCaptions();
 }
+
+Workbench::~Workbench() { LetProjectsGo(); }
 
 void Workbench::Open(const fs::path& path) {
   const fs::path whole = fs::absolute(path).lexically_normal();
   Adopt(ReadProjects(whole));
+  recent_.PutFirst(whole.string());
 }
 
 std::vector<std::shared_ptr<WorkProject>> Workbench::OpenBeside(const fs::path& path) {
@@ -106,12 +116,27 @@ std::shared_ptr<WorkComponent> Workbench::ComponentOfDesigner(const MemoryWindow
   return found == designers_.end() ? nullptr : found->component;
 }
 
-void Workbench::SetRecentProjects(std::vector<std::string> paths) { recent_ = std::move(paths); }
+void Workbench::TickShownToolbars() {
+  const auto tick = [this](int command, MemoryCommandBar& bar) {
+    vbe.commandBars.SetState(command, bar.Visible() ? button_state::kDown : button_state::kUp);
+  };
+  tick(command::kShowStandard, *bars.standard);
+  tick(command::kShowEdit, *bars.edit);
+  tick(command::kShowDebug, *bars.debug);
+}
+
+void Workbench::LetProjectsGo() {
+  for (const auto& project : projects_) {
+    project->onChange = nullptr;
+    project->onRemove = nullptr;
+  }
+}
 
 void Workbench::Adopt(std::vector<std::shared_ptr<WorkProject>> projects) {
   for (const auto& project : projects_) {
     for (const auto& component : project->Components()) CloseWindowsOf(*component);
   }
+  LetProjectsGo();
   projects_ = std::move(projects);
   for (const auto& project : projects_) WatchOver(*project);
   selected_ = nullptr;
@@ -146,11 +171,26 @@ void Workbench::NoteComponentRemoved(const WorkComponent& component) {
   ShowCaptions();
 }
 
+void Workbench::OpenRecent(const std::string& path) {
+  if (openRecent) return openRecent(PathOf(path));
+  try {
+    Open(PathOf(path));
+  } catch (const SourceError& error) {
+    throw RunTimeError(error_number::kPathFileAccess, error.what());
+  }
+}
+
 void Workbench::ShowCaptions() {
   ++revision_;
+  ShowNamesInMenus(*this, activeProject_ != nullptr ? activeProject_->Name() : "Project1",
+                   selected_ != nullptr ? selected_->LastName() : "Module1");
   vbe.SetCaption(MainCaption(activeProject_.get()));
   windows.project->SetCaption(ProjectCaption(activeProject_.get()));
   windows.properties->SetCaption(PropertiesCaption(selected_.get()));
+  ShowWindowCaptions();
+}
+
+void Workbench::ShowWindowCaptions() {
   for (const auto& pane : vbe.Panes()) {
     const auto component = ComponentOf(*pane->Code());
     const auto window = std::static_pointer_cast<MemoryWindow>(pane->ContainingWindow());

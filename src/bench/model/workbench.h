@@ -4,11 +4,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "bench/model/recent_projects.h"
 #include "bench/model/work_project.h"
 #include "memory/memory_clipboard.h"
 #include "memory/memory_keyboard.h"
@@ -22,6 +24,8 @@ class Workbench {
  public:
   /// Starts with the usual windows and command bars and no project.
   Workbench();
+  /// What somebody still holds of its projects is on its own then.
+  ~Workbench();
   Workbench(const Workbench&) = delete;
   Workbench& operator=(const Workbench&) = delete;
 
@@ -71,9 +75,16 @@ class Workbench {
   /// The component whose designer the window is; null for another window.
   std::shared_ptr<WorkComponent> ComponentOfDesigner(const MemoryWindow& window) const;
 
-  /// Paths, the latest first; what File's entries from 15 on show.
-  const std::vector<std::string>& RecentProjects() const { return recent_; }
-  void SetRecentProjects(std::vector<std::string> paths);
+  /// Paths, the latest first, at most four; what File's entries from 15 on show.
+  const std::vector<std::string>& RecentProjects() const { return recent_.Paths(); }
+  void SetRecentProjects(const std::vector<std::string>& paths) { recent_.Set(paths); }
+
+  /// What picking a recent project does: Open, until the program puts something in its place that
+  /// asks the user about unsaved changes first.
+  std::function<void(const std::filesystem::path&)> openRecent;
+
+  /// Ticks the toolbars' commands where their bars are shown; to be called before a menu opens.
+  void TickShownToolbars();
 
   /// Goes up with each change of what the project window shows: projects, components, names, what
   /// is active and selected.
@@ -95,19 +106,22 @@ class Workbench {
     std::shared_ptr<WorkComponent> component;
   };
 
+  void LetProjectsGo();
   void Adopt(std::vector<std::shared_ptr<WorkProject>> projects);
   void WatchOver(WorkProject& project);
   void CloseWindowsOf(const WorkComponent& component);
   void NoteActivation(MemoryWindow& window);
   void NoteRemoval(const MemoryWindow& window);
   void NoteComponentRemoved(const WorkComponent& component);
+  void OpenRecent(const std::string& path);
   void ShowCaptions();
+  void ShowWindowCaptions();
 
   std::vector<std::shared_ptr<WorkProject>> projects_;
   std::shared_ptr<WorkProject> activeProject_;
   std::shared_ptr<WorkComponent> selected_;
   std::vector<Designer> designers_;
-  std::vector<std::string> recent_;
+  bench::RecentProjects recent_;
   std::uint64_t revision_ = 0;
 };
 

@@ -132,6 +132,9 @@ LRESULT BarWindow::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
     case WM_LBUTTONUP:
       OnRelease(PointOf(longer));
       return 0;
+    case WM_CONTEXTMENU:
+      parts_.host.OpenMenu(parts_.bench.bars.toolbars->Entries(), PointOf(longer));
+      return 0;
     case WM_CAPTURECHANGED:
       Redraw(std::exchange(pressed_, kNone));
       return 0;

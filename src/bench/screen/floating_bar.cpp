@@ -34,8 +34,8 @@ void FloatingBar::Hold(BarWindow& content) {
   const int width = std::max(size.width, title);
   if (GetParent(content.Handle()) != Handle()) SetParent(content.Handle(), Handle());
   content.Place(bar_position::kFloating, {kEdge, kEdge + kCaption, width, size.height});
-  SetWindowPos(Handle(), nullptr, bar_->Left(), bar_->Top(), width + 2 * kEdge,
-               size.height + kCaption + 2 * kEdge, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  SetWindowPos(Handle(), HWND_TOP, bar_->Left(), bar_->Top(), width + 2 * kEdge,
+               size.height + kCaption + 2 * kEdge, SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
 LRESULT FloatingBar::OnMessage(UINT message, WPARAM wide, LPARAM longer) {

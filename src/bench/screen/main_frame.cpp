@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "bench/screen/faults.h"
@@ -21,7 +22,7 @@ constexpr int kHeight = 720;
 
 }  // namespace
 
-MainFrame::MainFrame(FrameEvents& events) : events_(events) {
+MainFrame::MainFrame(FrameEvents& events) : events_(events), idleDelay_(kLeastDelay) {
   Create({.className = L"BrimworkBench",
           .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
           .bounds = {12, 12, kWidth, kHeight}});
@@ -54,7 +55,7 @@ void MainFrame::Later(std::function<void()> task) {
 void MainFrame::AskForIdle() {
   if (isIdleAsked_) return;
   isIdleAsked_ = true;
-  SetTimer(Handle(), kIdleTimer, kIdleDelay, nullptr);
+  SetTimer(Handle(), kIdleTimer, idleDelay_, nullptr);
 }
 
 void MainFrame::SetMenuBar(MenuHandle menu) {
@@ -71,9 +72,7 @@ LRESULT MainFrame::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
       return 0;
     case WM_TIMER:
       if (wide != kIdleTimer) break;
-      KillTimer(Handle(), kIdleTimer);
-      isIdleAsked_ = false;
-      events_.OnIdle();
+      TellIdle();
       return 0;
     case kRunTasks:
       RunTasks();
@@ -113,6 +112,16 @@ LRESULT MainFrame::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
       break;
   }
   return Default(message, wide, longer);
+}
+
+// Much text takes long to draw: a client that calls again and again is not to wait for it most of
+// the time.
+void MainFrame::TellIdle() {
+  KillTimer(Handle(), kIdleTimer);
+  isIdleAsked_ = false;
+  const DWORD start = GetTickCount();
+  events_.OnIdle();
+  idleDelay_ = std::clamp((GetTickCount() - start) * 4, kLeastDelay, kMostDelay);
 }
 
 // A task may ask for further ones, which have their turn when they are posted.

@@ -35,7 +35,7 @@ class MainFrame : public NativeWindow {
   /// Runs a task when the message that is being answered is done with.
   void Later(std::function<void()> task);
 
-  /// Asks for OnIdle soon.
+  /// Asks for OnIdle soon: the longer it took the last time, the later.
   void AskForIdle();
 
   void SetMenuBar(MenuHandle menu);
@@ -50,6 +50,7 @@ class MainFrame : public NativeWindow {
  private:
   void CreateClient();
   void RunTasks();
+  void TellIdle();
   bool SetCursorFor(LPARAM longer);
 
   FrameEvents& events_;
@@ -58,6 +59,7 @@ class MainFrame : public NativeWindow {
   MenuHandle menu_;
   std::deque<std::function<void()>> tasks_;
   bool isIdleAsked_ = false;
+  DWORD idleDelay_;  // milliseconds
   bool isInMenu_ = false;
   bool isClosing_ = false;  // nobody is told any more
 };

@@ -18,8 +18,8 @@ inline constexpr std::size_t kPanels = 6;
 
 /// Pixels, as the user would have them; small main windows give less.
 struct PanelSizes {
-  int left = 58;
-  int right = 220;
+  int left = 81;
+  int right = 240;
   int upperRight = 240;  // of the project when the properties stand below it
   int bottom = 130;
 

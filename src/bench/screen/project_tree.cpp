@@ -1,5 +1,7 @@
 #include "bench/screen/project_tree.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -163,8 +165,30 @@ LRESULT ProjectTree::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
     OpenChosen();
     return 0;
   }
+  if (message == WM_CONTEXTMENU) {
+    OpenMenu(longer);
+    return 0;
+  }
   if (message == WM_CHAR && wide == VK_RETURN) return 0;  // the tree would beep
   return Default(message, wide, longer);
+}
+
+// A click with the right button chooses what it is on; the keyboard's key for the menu gives no
+// place.
+void ProjectTree::OpenMenu(LPARAM longer) {
+  POINT place{GET_X_LPARAM(longer), GET_Y_LPARAM(longer)};
+  if (longer == -1) {
+    place = {0, 0};
+    ClientToScreen(Handle(), &place);
+  } else {
+    TVHITTESTINFO hit{place, 0, nullptr};
+    ScreenToClient(Handle(), &hit.pt);
+    SendMessageW(Handle(), TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    if (hit.hItem != nullptr) {
+      SendMessageW(Handle(), TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(hit.hItem));
+    }
+  }
+  parts_.host.OpenMenu(parts_.bench.bars.projectWindow->Entries(), place);
 }
 
 void ProjectTree::OpenChosen() {

@@ -42,6 +42,7 @@ class ProjectTree : public ToolContent, public SubclassedControl {
   const Entry* Chosen() const;
   void SelectChosen();
   void OpenChosen();
+  void OpenMenu(LPARAM longer);
 
   ScreenParts parts_;
   HIMAGELIST images_;

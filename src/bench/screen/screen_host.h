@@ -21,6 +21,9 @@ class ScreenHost {
   /// after. What it throws is shown to the user.
   virtual void Do(std::function<void()> action) = 0;
 
+  /// Does what a click on a control of the command does, like Do; nothing while it is disabled.
+  virtual void RunCommand(int command) = 0;
+
   /// The user closes a window, like Do; the focus goes to the one behind it.
   virtual void CloseByUser(const std::shared_ptr<MemoryWindow>& window) = 0;
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "memory/usual_commands.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
@@ -288,12 +289,18 @@ bool TextView::AnswerKey(WPARAM character) {
   }
 }
 
+// Over several lines, and backwards, Tab is the command that indents them.
 void TextView::TypeTab() {
   TakeInput();
   isTouched_ = true;
-  const int column = text_->GetSelection().startColumn - 1;
-  const auto blanks = static_cast<std::size_t>(kTabColumns - column % kTabColumns);
-  const std::wstring typed(blanks, L' ');
+  const Selection selection = text_->GetSelection();
+  const bool isBackwards = GetKeyState(VK_SHIFT) < 0;
+  if (isBackwards || selection.startLine != selection.endLine) {
+    host_.RunCommand(isBackwards ? command::kOutdent : command::kIndent);
+    return;
+  }
+  const int column = selection.startColumn - 1;
+  const std::wstring typed(static_cast<std::size_t>(kTabColumns - column % kTabColumns), L' ');
   SendMessageW(Handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(typed.c_str()));
 }
 

@@ -13,7 +13,7 @@ namespace brimwork::bench {
 namespace {
 
 constexpr int kTool = 25;  // a tool's side in pixels
-constexpr int kToolsAcross = 2;
+constexpr int kToolsAcross = 3;
 
 RECT ToolArea(std::size_t tool) {
   const auto place = static_cast<int>(tool);
@@ -60,7 +60,7 @@ std::vector<ListColumn> LocalsColumns() {
 }
 
 std::vector<ListColumn> WatchColumns() {
-  return {{L"Expression", 25}, {L"Value", 25}, {L"Type", 25}, {L"Context", 24}};
+  return {{L"Expression", 32}, {L"Value", 22}, {L"Type", 20}, {L"Context", 25}};
 }
 
 ToolboxContent::ToolboxContent(const ScreenParts& parts, const ToolWindow& owner)

@@ -37,6 +37,7 @@ class ToolWindow : public NativeWindow {
 
   const std::shared_ptr<MemoryWindow>& Model() const { return window_; }
   ToolContent& Content() { return *content_; }
+  HWND FocusTarget() const { return content_->FocusTarget(); }
 
   void Refresh();
 

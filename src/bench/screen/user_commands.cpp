@@ -218,11 +218,7 @@ bool UserCommands::TakesKey(MSG& message) {
   if (find_.TakesKey(message)) return true;
   const int command = CommandOfKey(message);
   if (command == command::kNone) return false;
-  const auto controls = parts_.bench.vbe.commandBars.ControlsOf(command);
-  if (controls.empty()) return false;
-  parts_.host.Do([control = controls.front()] {
-    if (control->Details().enabled) control->Execute();
-  });
+  parts_.host.RunCommand(command);
   return true;
 }
 

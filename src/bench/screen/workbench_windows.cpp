@@ -25,7 +25,7 @@ WorkbenchWindows::WorkbenchWindows(Workbench& bench)
     : bench_(bench),
       frame_(*this),
       parts_{bench_, *this, fonts_, faces_},
-      menus_(faces_, [this](const auto& entries) { return WindowEntries(entries); }),
+      menus_(faces_, [this](const auto& entries) { return FurtherEntries(entries); }),
       bars_(parts_, frame_.Handle()),
       tools_(parts_, frame_.Handle()),
       workspace_(parts_, frame_.Client()),
@@ -102,16 +102,17 @@ void WorkbenchWindows::ShowMenuBar() {
 }
 
 void WorkbenchWindows::GiveFocus(MemoryWindow* window) {
-  if (window == nullptr) {
-    SetFocus(frame_.Handle());
-    return;
-  }
-  if (const MdiChild* child = workspace_.Of(*window)) {
+  const HWND frame = frame_.Handle();
+  const bool isBehind = GetForegroundWindow() != frame;
+  if (isBehind && IsWindowVisible(frame) && IsWindowEnabled(frame)) SetForegroundWindow(frame);
+  HWND target = frame;
+  if (const MdiChild* child = window != nullptr ? workspace_.Of(*window) : nullptr) {
     workspace_.Activate(*child);
-    SetFocus(child->FocusTarget());
-  } else if (const ToolWindow* tool = tools_.Of(*window)) {
-    SetFocus(tool->Handle());
+    target = child->FocusTarget();
+  } else if (const ToolWindow* tool = window != nullptr ? tools_.Of(*window) : nullptr) {
+    target = tool->FocusTarget();
   }
+  SetFocus(target);
 }
 
 void WorkbenchWindows::Do(std::function<void()> action) {
@@ -126,6 +127,13 @@ void WorkbenchWindows::Perform(const std::function<void()>& action) {
     ReportFault(frame_.Handle());
   }
   ShowChanges();
+}
+
+void WorkbenchWindows::RunCommand(int command) {
+  Do([this, command] {
+    const auto controls = bench_.vbe.commandBars.ControlsOf(command);
+    if (!controls.empty() && controls.front()->Details().enabled) controls.front()->Execute();
+  });
 }
 
 // The system activates the window behind, and the focus goes with it.
@@ -184,15 +192,31 @@ void WorkbenchWindows::OnMouse(UINT message, POINT place) {
   }
 }
 
-/// The open windows, in the Window menu.
-std::vector<FurtherEntry> WorkbenchWindows::WindowEntries(const MemoryCommandBarControls& entries) {
-  if (&entries != bench_.bars.window->Entries().get()) return {};
+/// What stands at the end of a menu and comes from the screen or from the user's own toolbars.
+std::vector<FurtherEntry> WorkbenchWindows::FurtherEntries(
+    const MemoryCommandBarControls& entries) {
+  if (&entries == bench_.bars.window->Entries().get()) return WindowEntries();
+  if (&entries == bench_.bars.toolbars->Entries().get()) return ToolbarEntries();
+  return {};
+}
+
+std::vector<FurtherEntry> WorkbenchWindows::WindowEntries() {
   std::vector<FurtherEntry> further;
   const MdiChild* active = workspace_.Active();
   for (const auto& window : workspace_.Windows()) {
     if (!window->Model()->Visible()) continue;
     further.push_back({"&" + std::to_string(further.size() + 1) + " " + window->Model()->Caption(),
                        window.get() == active, [model = window->Model()] { model->SetFocus(); }});
+  }
+  return further;
+}
+
+std::vector<FurtherEntry> WorkbenchWindows::ToolbarEntries() {
+  std::vector<FurtherEntry> further;
+  for (const auto& bar : bench_.vbe.commandBars.All()) {
+    if (bar->IsBuiltIn() || bar->Kind() != bar_type::kToolbar) continue;
+    further.push_back({bar->LastName(), bar->Visible(),
+                       [bar] { bar->SetVisible(!bar->Visible()); }});
   }
   return further;
 }

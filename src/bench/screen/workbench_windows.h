@@ -67,6 +67,7 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
  private:
   // What the windows ask for.
   void Do(std::function<void()> action) override;
+  void RunCommand(int command) override;
   void CloseByUser(const std::shared_ptr<MemoryWindow>& window) override;
   void NoteInput() override { frame_.AskForIdle(); }
   void NoteFocus(const std::shared_ptr<MemoryWindow>& window) override;
@@ -90,7 +91,9 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   void GiveFocus(MemoryWindow* window);
   void Perform(const std::function<void()>& action);
   HWND NativeOf(const MemoryWindow& window) const;
-  std::vector<FurtherEntry> WindowEntries(const MemoryCommandBarControls& entries);
+  std::vector<FurtherEntry> FurtherEntries(const MemoryCommandBarControls& entries);
+  std::vector<FurtherEntry> WindowEntries();
+  std::vector<FurtherEntry> ToolbarEntries();
 
   Workbench& bench_;
   Fonts fonts_;
