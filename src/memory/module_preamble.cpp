@@ -68,7 +68,8 @@ LaidOutObject ObjectOn(std::string_view beginLine) {
 
 class PreambleReader {
  public:
-  PreambleReader(std::string_view text, const std::string& path) : rest_(text), path_(path) {}
+  PreambleReader(std::string_view text, const std::string& path)
+      : start_(text.data()), rest_(text), path_(path) {}
 
   ModulePreamble Read() {
     const std::size_t whole = rest_.size();
@@ -92,16 +93,34 @@ class PreambleReader {
     if (part == Part::kCode || (part == Part::kVersion && !isFirst)) return false;
     if (part == Part::kAttribute) {
       hasAttributes_ = true;
-      if (preamble_.moduleName.empty()) preamble_.moduleName = ModuleNameIn(line);
+      if (preamble_.moduleName.empty()) NoteName(line);
     } else if (part != Part::kBlank && hasAttributes_) {
       return false;
     }
     if (part == Part::kBegin) {
-      if (preamble_.objectClass.empty()) preamble_.objectClass = ObjectOn(line).objectClass;
+      NoteObject(line);
       SkipBlock();
     }
     lastPart_ = part;
     return true;
+  }
+
+  void NoteName(std::string_view line) {
+    preamble_.moduleName = ModuleNameIn(line);
+    if (preamble_.moduleName.empty()) return;
+    preamble_.nameInAttribute =
+        SpanOf(line.substr(line.find('"') + 1, preamble_.moduleName.size()));
+  }
+
+  void NoteObject(std::string_view line) {
+    if (!preamble_.objectClass.empty()) return;
+    const LaidOutObject object = ObjectOn(line);
+    preamble_.objectClass = object.objectClass;
+    preamble_.nameInLayout = SpanOf(object.name);
+  }
+
+  TextSpan SpanOf(std::string_view part) const {
+    return {static_cast<std::size_t>(part.data() - start_), part.size()};
   }
 
   void SkipBlock() {
@@ -127,6 +146,7 @@ class PreambleReader {
     return TakeLine(rest_).text;
   }
 
+  const char* start_;
   std::string_view rest_;
   const std::string& path_;
   ModulePreamble preamble_;
@@ -135,68 +155,19 @@ class PreambleReader {
   bool hasAttributes_ = false;
 };
 
-/// Copies a preamble and puts the new name in its places.
-class PreambleRenamer {
- public:
-  PreambleRenamer(std::string_view preamble, std::string_view oldName, std::string_view newName)
-      : rest_(preamble), oldName_(oldName), newName_(newName) {}
+std::string_view FirstLineEnd(std::string_view text) {
+  const auto lineFeed = text.find('\n');
+  const bool isBare =
+      lineFeed != std::string_view::npos && !text.substr(0, lineFeed).ends_with('\r');
+  return isBare ? "\n" : "\r\n";
+}
 
-  std::string Rename() {
-    renamed_.assign(TakeMark());
-    while (!rest_.empty()) AddLine();
-    if (!isNamed_) AddAttribute();
-    return std::move(renamed_);
-  }
-
- private:
-  std::string_view TakeMark() {
-    const std::string_view mark =
-        rest_.substr(0, rest_.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
-    rest_.remove_prefix(mark.size());
-    return mark;
-  }
-
-  void AddLine() {
-    const char* const start = rest_.data();
-    const std::string_view line = TakeLine(rest_).text;
-    const std::string_view whole(start, static_cast<std::size_t>(rest_.data() - start));
-    if (whole.size() > line.size()) lineEnd_ = whole.substr(line.size());
-    const std::string_view name = NamePlaceOn(line);
-    if (name.data() == nullptr) {
-      renamed_.append(whole);
-      return;
-    }
-    const auto before = static_cast<std::size_t>(name.data() - start);
-    renamed_.append(whole.substr(0, before)).append(newName_);
-    renamed_.append(whole.substr(before + name.size()));
-  }
-
-  /// Where the line names the module, a null view when it does not.
-  std::string_view NamePlaceOn(std::string_view line) {
-    if (!isNamed_ && !oldName_.empty() && ModuleNameIn(line) == oldName_) {
-      isNamed_ = true;
-      return line.substr(line.find('"') + 1, oldName_.size());
-    }
-    if (isLaidOut_ || !OpensBlock(TrimBlanksAndTabs(line))) return {};
-    isLaidOut_ = true;
-    const std::string_view object = ObjectOn(line).name;
-    return object == oldName_ && !object.empty() ? object : std::string_view();
-  }
-
-  void AddAttribute() {
-    if (!renamed_.empty() && !renamed_.ends_with('\n') && renamed_ != kByteOrderMark)
-      renamed_ += lineEnd_;
-    renamed_.append("Attribute VB_Name = \"").append(newName_).append("\"").append(lineEnd_);
-  }
-
-  std::string_view rest_;
-  std::string_view oldName_;
-  std::string_view newName_;
-  std::string_view lineEnd_ = "\r\n";
-  std::string renamed_;
-  bool isNamed_ = false;
-  bool isLaidOut_ = false;
-};
+/// The preamble with an attribute that names the module behind it.
+std::string Named(std::string preamble, std::string_view name, std::string_view lineEnd) {
+  const bool isOpen = !preamble.empty() && preamble != kByteOrderMark && !preamble.ends_with('\n');
+  if (isOpen) preamble += lineEnd;
+  return preamble.append("Attribute VB_Name = \"").append(name).append("\"").append(lineEnd);
+}
 
 }  // namespace
 
@@ -206,7 +177,15 @@ ModulePreamble ReadPreamble(std::string_view text, const std::string& path) {
 
 std::string WithModuleName(std::string_view text, const ModulePreamble& preamble,
                            std::string_view name) {
-  return PreambleRenamer(text.substr(0, preamble.size), preamble.moduleName, name).Rename();
+  std::string renamed(text.substr(0, preamble.size));
+  if (preamble.moduleName.empty()) return Named(std::move(renamed), name, FirstLineEnd(text));
+  // The layout stands above the attribute.
+  const TextSpan& attribute = preamble.nameInAttribute;
+  renamed.replace(attribute.offset, attribute.size, name);
+  const TextSpan& layout = preamble.nameInLayout;
+  const bool isNamedSo = text.substr(layout.offset, layout.size) == preamble.moduleName;
+  if (isNamedSo) renamed.replace(layout.offset, layout.size, name);
+  return renamed;
 }
 
 }  // namespace brimwork

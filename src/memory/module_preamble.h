@@ -7,11 +7,20 @@
 
 namespace brimwork {
 
+struct TextSpan {
+  std::size_t offset = 0;
+  std::size_t size = 0;
+};
+
 struct ModulePreamble {
   std::size_t size = 0;  // bytes of the text, a byte-order mark included
   int lines = 0;
   std::string moduleName;   // "" when no attribute gives one
   std::string objectClass;  // what the first Begin lays out ("VB.Form"), "" where nothing is
+
+  // Where the text names the module; of size 0 where it does not.
+  TextSpan nameInAttribute;
+  TextSpan nameInLayout;  // the name that the first Begin gives its object
 };
 
 /// Reads the preamble at the start of a file's decoded text. path is for messages only. Throws

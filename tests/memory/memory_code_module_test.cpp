@@ -182,5 +182,16 @@ TEST_F(MemoryCodeModuleTest, AnUnknownProcedureRaisesErrorThirtyFive) {
   EXPECT_EQ(ErrorNumberOf([&] { module.ProcBodyLine("", ProcKind::kProcedure); }), 35);
 }
 
+TEST(MemoryCodeModuleRevision, GoesUpWithEveryEdit) {
+  MemoryCodeModule module("m", ModuleText::FromText("a\nb"));
+  EXPECT_EQ(module.Revision(), 0u);
+  module.Lines(1, 2);
+  EXPECT_EQ(module.Revision(), 0u);
+  module.ReplaceLine(1, "c");
+  module.InsertLines(1, "d");
+  module.DeleteLines(1, 1);
+  EXPECT_EQ(module.Revision(), 3u);
+}
+
 }  // namespace memory_code_module_test
 }  // namespace brimwork

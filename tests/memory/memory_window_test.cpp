@@ -140,5 +140,22 @@ TEST_F(MemoryWindowTest, TellsWhichWindowGotTheFocusAndWhichGoesAway) {
   EXPECT_THAT(told, ElementsAre("active Immediate", "gone Module1 (Code)"));
 }
 
+TEST_F(MemoryWindowTest, EveryChangeIsNoticedAndNothingElse) {
+  const auto changes = [&](const std::function<void()>& step) {
+    const auto before = windows.Revision();
+    step();
+    return windows.Revision() > before;
+  };
+  const auto window = windows.Add("Locals", window_type::kLocals);
+  EXPECT_TRUE(changes([&] { window->SetFocus(); }));
+  EXPECT_FALSE(changes([&] { window->SetFocus(); }));
+  EXPECT_TRUE(changes([&] { window->SetCaption("Watches"); }));
+  EXPECT_FALSE(changes([&] { window->SetCaption("Watches"); }));
+  EXPECT_TRUE(changes([&] { window->SetVisible(false); }));
+  EXPECT_FALSE(changes([&] { window->SetVisible(false); }));
+  EXPECT_TRUE(changes([&] { windows.Remove(*window); }));
+  EXPECT_TRUE(changes([&] { windows.Add("Locals", window_type::kLocals); }));
+}
+
 }  // namespace memory_window_test
 }  // namespace brimwork

@@ -363,7 +363,7 @@ TEST_F(WorkProjectTest, AModuleWithoutANameAttributeGetsOneWithItsFirstNewName) 
   EXPECT_EQ(Component(0).Name(), "bare");
   Component(0).SetName("modBare");
   project->Save();
-  EXPECT_EQ(ReadBytes(folder / "bare.bas"), "Attribute VB_Name = \"modBare\"\r\nSub A()\nEnd Sub");
+  EXPECT_EQ(ReadBytes(folder / "bare.bas"), "Attribute VB_Name = \"modBare\"\nSub A()\nEnd Sub");
 }
 
 }  // namespace work_project_test
