@@ -1,9 +1,11 @@
 #include "windows/object_model/com_code_module.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "environment/resume_next.h"
 #include "environment/run_time_error.h"
+#include "environment/text.h"
 #include "windows/object_model/unit_range.h"
 
 namespace brimwork::windows {
@@ -27,6 +29,15 @@ Selection WithWholeEnd(Selection range) {
 }  // namespace
 
 std::string ComCodeModule::Name() { return ToText(module_.Get(L"Name")); }
+
+std::uintptr_t ComCodeModule::Identity() {
+  if (identity_ == 0) {
+    const auto failure =
+        ResumeNext([&] { identity_ = std::hash<std::string>()(FoldName(QualifiedName())); });
+    if (failure) identity_ = module_.Identity();
+  }
+  return identity_;
+}
 
 int ComCodeModule::CountOfLines() { return ToNumber(module_.Get(L"CountOfLines")); }
 
@@ -94,6 +105,14 @@ bool ComCodeModule::Find(std::string_view target, Selection& range) {
                    Variant::ByReference(found.endColumn), kWholeWord, kMatchCase, kPattern));
   if (isFound) range = CharactersOf(*this, found);
   return isFound;
+}
+
+/// No two projects that are open together have one name, and no two modules of a project.
+std::string ComCodeModule::QualifiedName() {
+  const DispatchObject component = module_.Part(ObjectKind::kComponent, L"Parent");
+  const DispatchObject components = component.Part(ObjectKind::kComponents, L"Collection");
+  const DispatchObject project = components.Part(ObjectKind::kProject, L"Parent");
+  return ToText(project.Get(L"Name")) + '.' + Name();
 }
 
 void ComCodeModule::ReadLines(int startLine, int count, std::string& text) {

@@ -16,7 +16,9 @@ class ComCodeModule : public CodeModule {
   explicit ComCodeModule(DispatchObject module) : module_(std::move(module)) {}
 
   std::string Name() override;
-  std::uintptr_t Identity() override { return module_.Identity(); }
+  /// Made of the names of project and module: the environment may make a new object at any time.
+  /// Objects that are got after the module was renamed have another one.
+  std::uintptr_t Identity() override;
   int CountOfLines() override;
   int CountOfDeclarationLines() override;
   std::string Lines(int startLine, int count) override;
@@ -35,7 +37,10 @@ class ComCodeModule : public CodeModule {
   template <class Step>
   void ReadWhereThere(int line, Step step);
 
+  std::string QualifiedName();
+
   DispatchObject module_;
+  std::uintptr_t identity_ = 0;  // once it has been asked for
 };
 
 }  // namespace brimwork::windows

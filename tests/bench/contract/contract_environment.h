@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,8 @@ struct ContractHost {
   std::string name;
   std::function<std::unique_ptr<ContractEnvironment>()> make;
 };
+
+inline void PrintTo(const ContractHost& host, std::ostream* stream) { *stream << host.name; }
 
 inline std::string HostName(const testing::TestParamInfo<ContractHost>& info) {
   return info.param.name;

@@ -199,6 +199,45 @@ TEST_F(FindOverCom, TranslatesColumnsBehindACharacterOfTwoUnits) {
   EXPECT_EQ(range, (Selection{2, 2, 2, 4}));
 }
 
+/// A module object as the environment makes one anew, in a project of that name.
+ComPointer<FakeDispatch> ModuleOf(std::string_view project, std::string_view name) {
+  const auto ofProject = FakeDispatch::Make();
+  ofProject->Gives("Name", project);
+  const auto components = FakeDispatch::Make();
+  components->Gives("Parent", ofProject);
+  const auto component = FakeDispatch::Make();
+  component->Gives("Collection", components);
+  auto module = FakeDispatch::Make();
+  module->Gives("Name", name);
+  module->Gives("Parent", component);
+  return module;
+}
+
+std::uintptr_t IdentityOf(const ComPointer<FakeDispatch>& module) {
+  return ComCodeModule(DispatchObject(ComPointer<IDispatch>(module.get()),
+                                      std::make_shared<Connection>(), ComCodeModule::kKind))
+      .Identity();
+}
+
+TEST_F(ComCodeModuleTest, TheIdentityIsThatOfTheModuleNotOfTheObject) {
+  const auto identity = IdentityOf(ModuleOf("Project1", "Module1"));
+  EXPECT_EQ(IdentityOf(ModuleOf("Project1", "Module1")), identity);
+  EXPECT_NE(IdentityOf(ModuleOf("Project1", "Module2")), identity);
+  EXPECT_NE(IdentityOf(ModuleOf("Project2", "Module1")), identity);
+}
+
+TEST_F(ComCodeModuleTest, TheIdentityIsAskedForOnce) {
+  fake = ModuleOf("Project1", "Module1");
+  ComCodeModule named(DispatchObject(ComPointer<IDispatch>(fake.get()),
+                                     std::make_shared<Connection>(), ComCodeModule::kKind));
+  EXPECT_EQ(named.Identity(), named.Identity());
+  EXPECT_EQ(fake->calls.size(), 2u);
+}
+
+TEST_F(ComCodeModuleTest, AModuleOfNoProjectIsItsObject) {
+  EXPECT_EQ(module.Identity(), reinterpret_cast<std::uintptr_t>(fake.get()));
+}
+
 TEST_F(ComCodeModuleTest, EveryReferenceIsReleased) {
   const ULONG held = fake->References();
   module.Lines(1, 1);
