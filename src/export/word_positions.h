@@ -97,7 +97,8 @@ class WordPositions {
   static std::size_t FirstSlot(const Key& key) {
     constexpr std::uint64_t kMix = 0x9E3779B97F4A7C15;
     const std::uint64_t mixed = (key.first ^ (key.last << 7) ^ key.size) * kMix;
-    return mixed >> 32 ^ mixed >> 51;  // the letters behind the fifth count in high bits only
+    // The letters behind the fifth count in high bits only.
+    return static_cast<std::size_t>(mixed >> 32 ^ mixed >> 51);
   }
 
   bool Holds(const Slot& slot, std::string_view word, const Key& key) const {
