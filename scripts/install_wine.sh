@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
-          wine wine64 wine32:i386 xvfb xauth xdotool)
+          wine wine64 wine32:i386 fonts-wine fonts-liberation xvfb xauth xdotool)
 
 IsInstalled() {
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed

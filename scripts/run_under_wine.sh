@@ -1,18 +1,27 @@
 #!/usr/bin/env bash
 # Runs a Windows program, or a command that starts some, in a Wine prefix of its own with a screen in
 # memory of its own, and ends both however the run ends. Makes the prefix when there is none.
-# Usage: scripts/run_under_wine.sh [--fresh] PREFIX PROGRAM.exe|COMMAND [ARGUMENT...]
+# Usage: scripts/run_under_wine.sh [OPTION...] PREFIX PROGRAM.exe|COMMAND [ARGUMENT...]
 #   --fresh  starts with the registry of a new prefix, whatever earlier runs left in it
+#   --shown  on the screen that DISPLAY names, instead of one in memory
 # A command finds WINEPREFIX and DISPLAY in its environment. Exit code: the program's.
 set -euo pipefail
 
 fresh=0
-if [[ ${1-} == --fresh ]]; then
-  fresh=1
+shown=0
+while [[ ${1-} == --* ]]; do
+  case $1 in
+    --fresh) fresh=1 ;;
+    --shown) shown=1 ;;
+    *)
+      echo "run_under_wine: there is no option '$1'" >&2
+      exit 2
+      ;;
+  esac
   shift
-fi
+done
 [[ $# -ge 2 ]] || {
-  echo "Usage: scripts/run_under_wine.sh [--fresh] PREFIX PROGRAM.exe|COMMAND [ARGUMENT...]" >&2
+  echo "Usage: scripts/run_under_wine.sh [OPTION...] PREFIX PROGRAM.exe|COMMAND [ARGUMENT...]" >&2
   exit 2
 }
 mkdir -p "$1"
@@ -46,6 +55,8 @@ MakePrefix() {
   rm -rf "$WINEPREFIX"
   mkdir -p "$HOME" "$WINEPREFIX/registry.new"
   env -u DISPLAY wineboot --init >"$WINEPREFIX/wineboot.log" 2>&1
+  # There is no window manager on a screen in memory: windows draw their own title bars.
+  wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$WINEPREFIX/wineboot.log" 2>&1
   wineserver -w
   cp "$WINEPREFIX"/*.reg "$WINEPREFIX/registry.new"
   mv "$WINEPREFIX/registry.new" "$WINEPREFIX/registry"
@@ -78,6 +89,6 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 trap 'exit 129' HUP
 MakePrefix
-StartScreen
+[[ $shown -eq 1 ]] || StartScreen
 [[ $fresh -eq 0 ]] || cp "$WINEPREFIX"/registry/*.reg "$WINEPREFIX"
 Run "$@"
