@@ -32,6 +32,11 @@ class MemoryCodeModule : public CodeModule {
 
   const ModuleText& Text() const { return text_; }
 
+  /// From now on the lines behind the last procedure's closing line belong to that procedure.
+  void GiveLinesBelowToTheLastProcedure() {
+    index_ = ProcedureIndex(LinesBelow::kTheLastProcedures);
+  }
+
   /// Goes up with each edit of the text.
   std::uint64_t Revision() const { return revision_; }
 

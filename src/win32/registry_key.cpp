@@ -22,10 +22,10 @@ RegistryKey::~RegistryKey() {
   if (key_ != nullptr) RegCloseKey(key_);
 }
 
-RegistryKey RegistryKey::Make(HKEY parent, std::string_view path) {
+RegistryKey RegistryKey::Make(HKEY parent, std::string_view path, REGSAM view) {
   HKEY key = nullptr;
-  Require(RegCreateKeyExW(parent, Wide(path).c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                          &key, nullptr),
+  Require(RegCreateKeyExW(parent, Wide(path).c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE | view,
+                          nullptr, &key, nullptr),
           "cannot make the registry key " + std::string(path));
   return RegistryKey(key);
 }
@@ -89,14 +89,21 @@ void RegistryKey::SetNumber(std::string_view name, unsigned long number) {
           "cannot write the registry value " + std::string(name));
 }
 
-// Keys are removed from within: older systems have no call for a whole tree.
-void RemoveKey(HKEY parent, std::string_view path) {
+// Keys are removed from within: older systems have no call for a whole tree. A key that is opened
+// in a view is removed by its path in that view.
+void RemoveKey(HKEY parent, std::string_view path, REGSAM view) {
   {
-    const RegistryKey key(parent, path, KEY_READ | KEY_WRITE);
+    const RegistryKey key(parent, path, KEY_READ | KEY_WRITE | view);
     if (!key.IsOpen()) return;
-    for (const std::string& inner : key.Keys()) RemoveKey(key.Get(), inner);
+    for (const std::string& inner : key.Keys()) RemoveKey(key.Get(), inner, view);
   }
-  RegDeleteKeyW(parent, Wide(path).c_str());
+  const std::size_t last = path.rfind('\\');
+  if (last == path.npos) {
+    RegDeleteKeyW(parent, Wide(path).c_str());
+    return;
+  }
+  const RegistryKey above(parent, path.substr(0, last), KEY_READ | KEY_WRITE | view);
+  if (above.IsOpen()) RegDeleteKeyW(above.Get(), Wide(path.substr(last + 1)).c_str());
 }
 
 }  // namespace brimwork::win32

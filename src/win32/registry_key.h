@@ -19,8 +19,10 @@ class RegistryKey {
   RegistryKey(const RegistryKey&) = delete;
   RegistryKey& operator=(const RegistryKey&) = delete;
 
-  /// Opens a key, making it when it is not there. Throws RunTimeError 75 when that fails.
-  static RegistryKey Make(HKEY parent, std::string_view path);
+  /// Opens a key, making it when it is not there. view: KEY_WOW64_32KEY or KEY_WOW64_64KEY for what
+  /// programs of that word size see, 0 for what this one sees. Throws RunTimeError 75 when that
+  /// fails.
+  static RegistryKey Make(HKEY parent, std::string_view path, REGSAM view = 0);
 
   bool IsOpen() const { return key_ != nullptr; }
   HKEY Get() const { return key_; }
@@ -42,7 +44,7 @@ class RegistryKey {
   HKEY key_ = nullptr;
 };
 
-/// Removes a key with all in it; one that is not there is fine.
-void RemoveKey(HKEY parent, std::string_view path);
+/// Removes a key with all in it; one that is not there is fine. view: as for Make.
+void RemoveKey(HKEY parent, std::string_view path, REGSAM view = 0);
 
 }  // namespace brimwork::win32

@@ -63,8 +63,11 @@ std::string ClassKey() {
   return std::string(kClasses) + "CLSID\\" + win32::Narrow(text);
 }
 
-void WriteDefault(const std::string& path, const std::string& text) {
-  win32::RegistryKey::Make(HKEY_CURRENT_USER, path).SetText("", text);
+/// Programs of both word sizes may be its clients.
+constexpr REGSAM kViews[] = {KEY_WOW64_32KEY, KEY_WOW64_64KEY};
+
+void WriteDefault(const std::string& path, const std::string& text, REGSAM view = 0) {
+  win32::RegistryKey::Make(HKEY_CURRENT_USER, path, view).SetText("", text);
 }
 
 }  // namespace
@@ -89,14 +92,16 @@ void RegisterApplicationClass(const std::string& program) {
   const std::string clsid = ClassKey().substr(ClassKey().rfind('\\') + 1);
   WriteDefault(std::string(kClasses) + kProgId, "Brimwork Bench");
   WriteDefault(std::string(kClasses) + kProgId + "\\CLSID", clsid);
-  WriteDefault(ClassKey(), "Brimwork Bench");
-  WriteDefault(ClassKey() + "\\ProgID", kProgId);
-  WriteDefault(ClassKey() + "\\LocalServer32", "\"" + program + "\" --automation");
+  for (const REGSAM view : kViews) {
+    WriteDefault(ClassKey(), "Brimwork Bench", view);
+    WriteDefault(ClassKey() + "\\ProgID", kProgId, view);
+    WriteDefault(ClassKey() + "\\LocalServer32", "\"" + program + "\" --automation", view);
+  }
 }
 
 void UnregisterApplicationClass() {
   win32::RemoveKey(HKEY_CURRENT_USER, std::string(kClasses) + kProgId);
-  win32::RemoveKey(HKEY_CURRENT_USER, ClassKey());
+  for (const REGSAM view : kViews) win32::RemoveKey(HKEY_CURRENT_USER, ClassKey(), view);
 }
 
 }  // namespace brimwork::bench

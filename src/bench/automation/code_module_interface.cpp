@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <string>
 
+#include "bench/automation/columns.h"
 #include "bench/automation/from_disk.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
@@ -102,10 +103,12 @@ Variant CreateEventProc(Call& call) {
 }
 
 Variant Find(Call& call) {
-  Selection range{Line(call, 1), Line(call, 2), Line(call, 3), Line(call, 4)};
+  Selection range =
+      InCharacters(Self(call), {Line(call, 1), Line(call, 2), Line(call, 3), Line(call, 4)});
   const SearchOptions options{call.BoolOr(5, false), call.BoolOr(6, false), call.BoolOr(7, false)};
   const bool found = FindInModule(Self(call), call.Text(0), options, range);
   if (!found) return Variant(false);
+  range = InUnits(Self(call), range);
   call.Return(1, range.startLine);
   call.Return(2, range.startColumn);
   call.Return(3, range.endLine);

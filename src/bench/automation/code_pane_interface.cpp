@@ -1,5 +1,6 @@
 // The code panes of the object model.
 #include "bench/automation/collection.h"
+#include "bench/automation/columns.h"
 #include "bench/automation/identifiers.h"
 #include "bench/automation/interfaces.h"
 
@@ -44,7 +45,7 @@ Variant ModuleOfPane(Call& call) {
 }
 
 Variant GetSelection(Call& call) {
-  const Selection selection = Self(call).GetSelection();
+  const Selection selection = InUnits(*Self(call).Module(), Self(call).GetSelection());
   call.Return(0, selection.startLine);
   call.Return(1, selection.startColumn);
   call.Return(2, selection.endLine);
@@ -54,7 +55,8 @@ Variant GetSelection(Call& call) {
 
 Variant SetSelection(Call& call) {
   const auto number = [&](std::size_t index) { return static_cast<int>(call.Long(index)); };
-  Self(call).SetSelection({number(0), number(1), number(2), number(3)});
+  Self(call).SetSelection(
+      InCharacters(*Self(call).Module(), {number(0), number(1), number(2), number(3)}));
   return Variant();
 }
 

@@ -36,7 +36,9 @@ void CopyPictures(const fs::path& from, const fs::path& to) {
 
 WorkComponent::WorkComponent(int type, std::shared_ptr<MemoryCodeModule> module, ComponentFile file)
     : MemoryComponent(file.Source().ModuleName(), type, std::move(module)),
-      file_(std::make_unique<ComponentFile>(std::move(file))) {}
+      file_(std::make_unique<ComponentFile>(std::move(file))) {
+  Code()->GiveLinesBelowToTheLastProcedure();
+}
 
 WorkComponent::WorkComponent(int type, std::string name, fs::path path)
     : MemoryComponent(std::move(name), type, nullptr), path_(std::move(path)) {}
