@@ -26,11 +26,12 @@ void Fill(MemoryCommandBarControls& controls, Entries entries) {
   for (const usual::Entry& entry : entries) Add(controls, entry);
 }
 
-void AddPopup(const MemoryCommandBar& menu, std::string_view caption, Entries entries,
-              bool beginsGroup) {
+std::shared_ptr<MemoryCommandBar> AddPopup(const MemoryCommandBar& menu, std::string_view caption,
+                                           Entries entries, bool beginsGroup) {
   const auto popup = menu.Entries()->AddBuiltInPopup(caption);
   popup->SetBeginGroup(beginsGroup);
   Fill(*popup->Entries(), entries);
+  return popup->Menu();
 }
 
 class UsualBarBuilder {
@@ -54,7 +55,7 @@ class UsualBarBuilder {
     usual_.editMenu = OwnMenu("&Edit", usual::kEditMenu);
     AddPopup(*usual_.editMenu, "&Bookmarks", usual::kBookmarks, true);
     usual_.view = Menu("View", "&View", usual::kView);
-    AddPopup(*usual_.view, "&Toolbars", usual::kToolbars, true);
+    usual_.toolbars = AddPopup(*usual_.view, "&Toolbars", usual::kToolbars, true);
     usual_.project = Menu("Project", "&Project", usual::kProject);
     usual_.format = Menu("Format", "F&ormat", usual::kFormat);
     usual_.debugMenu = OwnMenu("&Debug", usual::kDebugMenu);

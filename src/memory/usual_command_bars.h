@@ -16,6 +16,7 @@ struct UsualCommandBars {
   std::shared_ptr<MemoryCommandBar> file;  // its control 15 is the first recent project
   std::shared_ptr<MemoryCommandBar> editMenu;
   std::shared_ptr<MemoryCommandBar> view;
+  std::shared_ptr<MemoryCommandBar> toolbars;  // which of them are shown; a popup of View's
   std::shared_ptr<MemoryCommandBar> project;
   std::shared_ptr<MemoryCommandBar> format;
   std::shared_ptr<MemoryCommandBar> debugMenu;

@@ -14,7 +14,8 @@ namespace {
 
 constexpr UINT kRunTasks = WM_APP + 1;
 constexpr UINT_PTR kIdleTimer = 1;
-constexpr UINT kIdleDelay = 15;       // milliseconds
+constexpr DWORD kLeastDelay = 15;  // milliseconds
+constexpr DWORD kMostDelay = 500;
 constexpr UINT kFirstChild = 0xE000;  // numbers that the client gives its windows
 
 constexpr int kWidth = 1000;

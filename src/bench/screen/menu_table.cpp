@@ -80,7 +80,7 @@ void MenuTable::Append(HMENU menu, const std::shared_ptr<MemoryCommandBarControl
   }
   if (look.picture && !look.isPressed) {
     item.fMask |= MIIM_BITMAP;
-    item.hbmpItem = BitmapFor(*look.picture);
+    item.hbmpItem = BitmapFor(*look.picture, look.isEnabled);
   }
   Insert(menu, item, TextOf(look));
 }
@@ -114,12 +114,13 @@ void MenuTable::Clear() {
   actions_.clear();
 }
 
-HBITMAP MenuTable::BitmapFor(const Picture& picture) {
-  const auto known =
-      std::ranges::find(bitmaps_, picture, &std::pair<Picture, GdiObject<HBITMAP>>::first);
-  if (known != bitmaps_.end()) return known->second.get();
-  bitmaps_.emplace_back(picture, BitmapOf(picture, GetSysColor(COLOR_MENU)));
-  return bitmaps_.back().second.get();
+HBITMAP MenuTable::BitmapFor(const Picture& picture, bool enabled) {
+  const auto known = std::ranges::find_if(bitmaps_, [&](const MenuBitmap& each) {
+    return each.enabled == enabled && each.picture == picture;
+  });
+  if (known != bitmaps_.end()) return known->bitmap.get();
+  bitmaps_.push_back({picture, enabled, MenuBitmapOf(picture, enabled)});
+  return bitmaps_.back().bitmap.get();
 }
 
 std::function<void()> ChooseFromMenu(MenuTable& table, const MenuEntries& entries, HWND owner,

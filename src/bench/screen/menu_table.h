@@ -47,18 +47,24 @@ class MenuTable {
   void Clear();
 
  private:
+  struct MenuBitmap {
+    Picture picture;
+    bool enabled;
+    GdiObject<HBITMAP> bitmap;
+  };
+
   void Append(HMENU menu, const std::shared_ptr<MemoryCommandBarControl>& control);
   void Append(HMENU menu, const FurtherEntry& entry);
   void AppendSeparator(HMENU menu);
   UINT NewCommand(std::function<void()> action);
-  HBITMAP BitmapFor(const Picture& picture);
+  HBITMAP BitmapFor(const Picture& picture, bool enabled);
 
   const Faces& faces_;
   std::function<std::vector<FurtherEntry>(const MemoryCommandBarControls&)> further_;
   std::map<HMENU, std::weak_ptr<MemoryCommandBarControls>> entries_;
   std::map<UINT, std::function<void()>> actions_;
   UINT latestCommand_ = 0;
-  std::vector<std::pair<Picture, GdiObject<HBITMAP>>> bitmaps_;
+  std::vector<MenuBitmap> bitmaps_;
 };
 
 /// Opens a menu and returns what was chosen from it; empty for nothing. owner's window procedure

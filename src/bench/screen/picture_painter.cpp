@@ -7,11 +7,11 @@
 namespace brimwork::bench {
 namespace {
 
-GdiObject<HBITMAP> NewBitmap(Colour** points) {
+GdiObject<HBITMAP> NewBitmap(int width, int height, Colour** points) {
   BITMAPINFO info{};
   info.bmiHeader.biSize = sizeof info.bmiHeader;
-  info.bmiHeader.biWidth = Picture::kSize;
-  info.bmiHeader.biHeight = -Picture::kSize;  // from the top down
+  info.bmiHeader.biWidth = width;
+  info.bmiHeader.biHeight = -height;  // from the top down
   info.bmiHeader.biPlanes = 1;
   info.bmiHeader.biBitCount = 32;
   void* bits = nullptr;
@@ -34,7 +34,8 @@ Colour Paled(Colour colour) {
 }  // namespace
 
 PictureBitmap::PictureBitmap()
-    : bitmap_(NewBitmap(&points_)), selected_(context_.get(), bitmap_.get()) {}
+    : bitmap_(NewBitmap(Picture::kSize, Picture::kSize, &points_)),
+      selected_(context_.get(), bitmap_.get()) {}
 
 Picture PictureBitmap::OpaquePicture() const {
   GdiFlush();
@@ -56,12 +57,25 @@ void DrawPicture(HDC context, const Picture& picture, int x, int y, bool enabled
 
 GdiObject<HBITMAP> BitmapOf(const Picture& picture, COLORREF background) {
   Colour* points = nullptr;
-  GdiObject<HBITMAP> bitmap = NewBitmap(&points);
+  GdiObject<HBITMAP> bitmap = NewBitmap(Picture::kSize, Picture::kSize, &points);
   const Colour beneath = static_cast<Colour>(GetRValue(background)) << 16 |
                          static_cast<Colour>(GetGValue(background)) << 8 | GetBValue(background);
   std::ranges::transform(picture.points, points, [beneath](Colour colour) {
     return IsSeeThrough(colour) ? beneath : colour & 0xFFFFFF;
   });
+  return bitmap;
+}
+
+GdiObject<HBITMAP> MenuBitmapOf(const Picture& picture, bool enabled) {
+  constexpr int kWidth = Picture::kSize + 6;
+  constexpr int kHeight = Picture::kSize + 2;
+  Colour* points = nullptr;
+  GdiObject<HBITMAP> bitmap = NewBitmap(kWidth, kHeight, &points);
+  const MemoryContext context;
+  const SelectedObject selected(context.get(), bitmap.get());
+  const RECT all = {0, 0, kWidth, kHeight};
+  FillRect(context.get(), &all, GetSysColorBrush(COLOR_MENU));
+  DrawPicture(context.get(), picture, 1, 1, enabled);
   return bitmap;
 }
 

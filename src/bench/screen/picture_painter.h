@@ -30,8 +30,11 @@ class PictureBitmap {
 /// Pale and grey when it is not enabled.
 void DrawPicture(HDC context, const Picture& picture, int x, int y, bool enabled);
 
-/// For menus, which draw a bitmap as it is: see-through points get the colour.
+/// See-through points get the colour.
 GdiObject<HBITMAP> BitmapOf(const Picture& picture, COLORREF background);
+
+/// For a menu, which draws a bitmap as it is and the text right behind it.
+GdiObject<HBITMAP> MenuBitmapOf(const Picture& picture, bool enabled);
 
 IconHandle IconOf(const Picture& picture);
 

@@ -251,6 +251,9 @@ LRESULT TextView::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
       return TRUE;
     case EM_CANUNDO:
       return CanUndo();
+    case WM_RBUTTONDOWN:
+      SetFocus(Handle());
+      break;
     case WM_CONTEXTMENU:
       OpenMenu(longer);
       return 0;

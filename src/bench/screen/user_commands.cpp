@@ -1,14 +1,10 @@
 #include "bench/screen/user_commands.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "bench/screen/command_keys.h"
 #include "bench/screen/file_dialogs.h"
-#include "environment/control.h"
-#include "environment/vbe.h"
 #include "memory/usual_commands.h"
-#include "win32/wide_text.h"
 
 namespace brimwork::bench {
 namespace {
@@ -31,11 +27,11 @@ UserCommands::UserCommands(const ScreenParts& parts, Workspace& workspace, ToolS
   GiveEditing();
   GiveFiles();
   GiveWindows();
-  GiveToolbars();
 }
 
 UserCommands::~UserCommands() {
   for (const int command : given_) parts_.bench.vbe.commandBars.SetAction(command, {});
+  parts_.bench.openRecent = {};
 }
 
 void UserCommands::Give(int command, std::function<void()> action) {
@@ -61,46 +57,18 @@ void UserCommands::GiveEditing() {
 
 void UserCommands::GiveFiles() {
   Give(command::kOpenProject, [this] { OpenProject(); });
-  Give(command::kRecentProject, [this] { OpenRecent(); });
-  Give(command::kSaveProject, [this] { parts_.bench.SaveAll(); });
-  Give(command::kSaveFile, [this] {
-    if (const auto component = parts_.bench.SelectedComponent()) component->Save();
-  });
-  Give(command::kAddModule, [this] { AddComponent(component_type::kStandardModule); });
-  Give(command::kAddClassModule, [this] { AddComponent(component_type::kClassModule); });
   Give(command::kExit, exit_);
+  parts_.bench.openRecent = [this](const std::filesystem::path& path) {
+    if (MayClose()) Open(path);
+  };
 }
 
 void UserCommands::GiveWindows() {
-  const UsualWindows& windows = parts_.bench.windows;
-  const std::pair<int, std::shared_ptr<MemoryWindow>> tools[] = {
-      {command::kImmediateWindow, windows.immediate},
-      {command::kLocalsWindow, windows.locals},
-      {command::kWatchWindow, windows.watch},
-      {command::kProjectExplorer, windows.project},
-      {command::kPropertiesWindow, windows.properties},
-      {command::kToolbox, windows.toolbox}};
-  for (const auto& [command, window] : tools) {
-    Give(command, [this, window = window] { ShowTool(window); });
-  }
-  Give(command::kViewCode, [this] { ViewCode(); });
-  Give(command::kViewObject, [this] { ViewObject(); });
   Give(command::kHide, [this] { HideActive(); });
   Give(command::kCascade, [this] { workspace_.Cascade(); });
   Give(command::kTileHorizontally, [this] { workspace_.TileAcross(); });
   Give(command::kTileVertically, [this] { workspace_.TileDown(); });
   Give(command::kArrangeIcons, [this] { workspace_.ArrangeIcons(); });
-}
-
-void UserCommands::GiveToolbars() {
-  const UsualCommandBars& bars = parts_.bench.bars;
-  const std::pair<int, std::shared_ptr<MemoryCommandBar>> toolbars[] = {
-      {command::kShowStandard, bars.standard},
-      {command::kShowEdit, bars.edit},
-      {command::kShowDebug, bars.debug}};
-  for (const auto& [command, bar] : toolbars) {
-    Give(command, [bar = bar] { bar->SetVisible(!bar->Visible()); });
-  }
 }
 
 /// The text that the user works on: the active window's, else that of the code window in front.
@@ -143,44 +111,12 @@ void UserCommands::OpenProject() {
   if (path && MayClose()) Open(*path);
 }
 
-/// The entry's caption is the path behind a number.
-void UserCommands::OpenRecent() {
-  const auto clicked = parts_.bench.vbe.commandBars.ActionControl();
-  if (clicked == nullptr || !MayClose()) return;
-  const std::string caption = ShownCaption(clicked->LastCaption());
-  Open(win32::Wide(caption.substr(std::min(caption.find(' ') + 1, caption.size()))));
-}
-
 bool UserCommands::MayClose() {
   if (!parts_.bench.HasUnsavedChanges()) return true;
   const int answer = MessageBoxW(parts_.host.Owner(), L"Save the changes to the open projects?",
                                  L"Workbench", MB_YESNOCANCEL | MB_ICONQUESTION);
   if (answer == IDYES) parts_.bench.SaveAll();
   return answer != IDCANCEL;
-}
-
-void UserCommands::AddComponent(int type) {
-  const auto project = parts_.bench.ActiveProject();
-  if (project == nullptr) return;
-  project->AddVBComponent(type);
-  parts_.bench.PaneOf(project->Components().back());
-}
-
-void UserCommands::ViewCode() {
-  const auto component = parts_.bench.SelectedComponent();
-  const auto pane = component != nullptr ? parts_.bench.PaneOf(component) : nullptr;
-  if (pane != nullptr) pane->ContainingWindow()->SetFocus();
-}
-
-void UserCommands::ViewObject() {
-  const auto component = parts_.bench.SelectedComponent();
-  const auto designer = component != nullptr ? parts_.bench.DesignerOf(component) : nullptr;
-  if (designer != nullptr) designer->SetFocus();
-}
-
-void UserCommands::ShowTool(const std::shared_ptr<MemoryWindow>& window) {
-  window->SetVisible(true);
-  window->SetFocus();
 }
 
 /// Hides a tool window and closes another one.
@@ -196,14 +132,6 @@ void UserCommands::ShowStates() {
   const auto component = parts_.bench.SelectedComponent();
   ShowState(command::kViewObject, component != nullptr && component->HasDesigner());
   ShowState(command::kViewCode, component != nullptr && component->Code() != nullptr);
-  const UsualCommandBars& bars = parts_.bench.bars;
-  const auto check = [this](int command, MemoryCommandBar& bar) {
-    parts_.bench.vbe.commandBars.SetState(command,
-                                          bar.Visible() ? button_state::kDown : button_state::kUp);
-  };
-  check(command::kShowStandard, *bars.standard);
-  check(command::kShowEdit, *bars.edit);
-  check(command::kShowDebug, *bars.debug);
 }
 
 /// Says it once: an add-in may see to it that a command is disabled all the same.

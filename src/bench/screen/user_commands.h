@@ -26,7 +26,7 @@ class UserCommands {
   UserCommands(const UserCommands&) = delete;
   UserCommands& operator=(const UserCommands&) = delete;
 
-  /// Shows which commands can be done now, and which toolbars are shown.
+  /// Shows which commands can be done now.
   void ShowStates();
 
   /// True when the key is a command's, or the Find dialog's.
@@ -43,7 +43,6 @@ class UserCommands {
   void GiveEditing();
   void GiveFiles();
   void GiveWindows();
-  void GiveToolbars();
 
   TextView* Text() const;
   void OnText(void (TextView::*task)());
@@ -51,11 +50,6 @@ class UserCommands {
   void FindAgain();
   void Look(const SearchQuery& query);
   void OpenProject();
-  void OpenRecent();
-  void AddComponent(int type);
-  void ViewCode();
-  void ViewObject();
-  void ShowTool(const std::shared_ptr<MemoryWindow>& window);
   void HideActive();
   void ShowState(int command, bool isEnabled);
 

@@ -32,6 +32,7 @@ WorkbenchWindows::WorkbenchWindows(Workbench& bench)
       desk_(frame_.Handle(), frame_.Client(), bars_, tools_),
       focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }),
       commands_(parts_, workspace_, tools_, [this] { OnCloseAsked(); }) {
+  bench_.vbe.commandBars.DisableIdleCommands();
   bench_.windows.toolbox->SetVisible(false);
   Settle();
 }
@@ -149,7 +150,15 @@ void WorkbenchWindows::CloseByUser(const std::shared_ptr<MemoryWindow>& window) 
 void WorkbenchWindows::NoteFocus(const std::shared_ptr<MemoryWindow>& window) {
   focus_.NoteFocus(window);
   ShowToolboxFor(*window);
+  ShowActiveCaption(*window);
   frame_.AskForIdle();
+}
+
+/// The system leaves the colours of the window that has the focus to the code window in front.
+void WorkbenchWindows::ShowActiveCaption(const MemoryWindow& window) {
+  const MdiChild* front = workspace_.Active();
+  if (front == nullptr) return;
+  SendMessageW(front->Handle(), WM_NCACTIVATE, front->Model().get() == &window, 0);
 }
 
 /// A designer brings the toolbox along; what the user has hidden since stays hidden.
@@ -177,6 +186,7 @@ void WorkbenchWindows::OnCommand(UINT command) {
 
 void WorkbenchWindows::OnMenuOpening(HMENU menu) {
   TakeInput();
+  bench_.TickShownToolbars();
   menus_.Fill(menu);
 }
 
@@ -215,8 +225,8 @@ std::vector<FurtherEntry> WorkbenchWindows::ToolbarEntries() {
   std::vector<FurtherEntry> further;
   for (const auto& bar : bench_.vbe.commandBars.All()) {
     if (bar->IsBuiltIn() || bar->Kind() != bar_type::kToolbar) continue;
-    further.push_back({bar->LastName(), bar->Visible(),
-                       [bar] { bar->SetVisible(!bar->Visible()); }});
+    further.push_back(
+        {bar->LastName(), bar->Visible(), [bar] { bar->SetVisible(!bar->Visible()); }});
   }
   return further;
 }

@@ -85,6 +85,7 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   HCURSOR CursorAt(POINT place) override { return desk_.CursorAt(place); }
 
   void FollowWindows();
+  void ShowActiveCaption(const MemoryWindow& window);
   void ShowToolboxFor(const MemoryWindow& window);
   void ShowTitle();
   void ShowMenuBar();
