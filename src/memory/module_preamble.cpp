@@ -155,13 +155,6 @@ class PreambleReader {
   bool hasAttributes_ = false;
 };
 
-std::string_view FirstLineEnd(std::string_view text) {
-  const auto lineFeed = text.find('\n');
-  const bool isBare =
-      lineFeed != std::string_view::npos && !text.substr(0, lineFeed).ends_with('\r');
-  return isBare ? "\n" : "\r\n";
-}
-
 /// The preamble with an attribute that names the module behind it.
 std::string Named(std::string preamble, std::string_view name, std::string_view lineEnd) {
   const bool isOpen = !preamble.empty() && preamble != kByteOrderMark && !preamble.ends_with('\n');

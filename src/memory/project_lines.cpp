@@ -31,13 +31,6 @@ const ProjectLine* PlaceFor(std::string_view key, const std::vector<ProjectLine>
   return nullptr;
 }
 
-std::string_view FirstLineEnd(std::string_view bytes) {
-  const auto lineFeed = bytes.find('\n');
-  const bool isBare =
-      lineFeed == 0 || (lineFeed != std::string_view::npos && bytes[lineFeed - 1] != '\r');
-  return isBare ? "\n" : "\r\n";
-}
-
 std::size_t MarkSize(std::string_view bytes) {
   return bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
 }
