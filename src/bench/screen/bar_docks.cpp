@@ -9,10 +9,6 @@
 namespace brimwork::bench {
 namespace {
 
-bool GoesAcross(int position) {
-  return position == bar_position::kTop || position == bar_position::kBottom;
-}
-
 /// The bars of an edge, from the edge inwards and each row from its start.
 std::vector<std::size_t> OrderAlong(const std::vector<DockedBar>& bars, int position) {
   std::vector<std::size_t> order(bars.size());
@@ -96,6 +92,10 @@ void TakeFrom(Bounds& free, int position, int depth) {
 }
 
 }  // namespace
+
+bool GoesAcross(int position) {
+  return position == bar_position::kTop || position == bar_position::kBottom;
+}
 
 DockPlan PlanDocks(const std::vector<DockedBar>& bars, const Bounds& outer) {
   DockPlan plan{std::vector<Bounds>(bars.size()), outer};

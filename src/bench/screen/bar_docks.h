@@ -23,6 +23,9 @@ struct DockPlan {
   Bounds inner;              // what is left in the middle
 };
 
+/// Whether the bars of an edge stand beside each other; at the others they stand below each other.
+bool GoesAcross(int position);
+
 /// Bars of one row share it as far as it has room; the others move on to a row of their own. Upper
 /// and lower edges come first and take the whole width.
 DockPlan PlanDocks(const std::vector<DockedBar>& bars, const Bounds& outer);

@@ -8,10 +8,6 @@
 namespace brimwork::bench {
 namespace {
 
-bool GoesAcross(int position) {
-  return position == bar_position::kTop || position == bar_position::kBottom;
-}
-
 bool IsShownToolbar(MemoryCommandBar& bar) {
   return bar.Kind() == bar_type::kToolbar && bar.Details().enabled && bar.Visible();
 }

@@ -9,7 +9,7 @@
 namespace brimwork::bench {
 namespace {
 
-constexpr int kMargin = 20;  // the grey strip beside the text
+constexpr int kStripWidth = 20;  // the grey strip beside the text
 
 }  // namespace
 
@@ -68,7 +68,7 @@ void CodeWindow::Arrange() {
   GetClientRect(Handle(), &room);
   const int top = ProcedureBoxes::kHeight + 1;
   boxes_->Place(0, 0, static_cast<int>(room.right));
-  MoveWindow(text_->Handle(), kMargin, top, std::max<int>(room.right - kMargin, 0),
+  MoveWindow(text_->Handle(), kStripWidth, top, std::max<int>(room.right - kStripWidth, 0),
              std::max<int>(room.bottom - top, 0), TRUE);
 }
 

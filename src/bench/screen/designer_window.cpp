@@ -9,7 +9,7 @@
 namespace brimwork::bench {
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kPaperMargin = 8;
 constexpr int kWidth = 320;
 constexpr int kHeight = 240;
 constexpr int kGrid = 8;
@@ -79,7 +79,7 @@ LRESULT DesignerWindow::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
 
 void DesignerWindow::Paint() {
   const Painting painting(Handle());
-  const RECT form = {kMargin, kMargin, kMargin + kWidth, kMargin + kHeight};
+  const RECT form = {kPaperMargin, kPaperMargin, kPaperMargin + kWidth, kPaperMargin + kHeight};
   PaintForm(painting.Context(), form);
   PaintHandles(painting.Context(), form);
 }

@@ -7,7 +7,7 @@ namespace {
 
 bool IsSecondOfPair(wchar_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-struct Place {
+struct CaretPlace {
   int line;
   int column;
 };
@@ -16,7 +16,7 @@ std::size_t StartOfLine(HWND edit, int line) {
   return static_cast<std::size_t>(SendMessageW(edit, EM_LINEINDEX, static_cast<WPARAM>(line), 0));
 }
 
-Place PlaceOf(HWND edit, std::wstring_view text, std::size_t unit) {
+CaretPlace PlaceOf(HWND edit, std::wstring_view text, std::size_t unit) {
   const auto line = static_cast<int>(SendMessageW(edit, EM_LINEFROMCHAR, unit, 0));
   const std::size_t start = std::min(StartOfLine(edit, line), text.size());
   const auto before = text.substr(start, std::max(unit, start) - start);
@@ -58,8 +58,8 @@ void SelectUnits(HWND edit, const UnitRange& range) {
 }
 
 Selection PositionsOf(HWND edit, std::wstring_view text, const UnitRange& range) {
-  const Place start = PlaceOf(edit, text, range.start);
-  const Place end = range.end == range.start ? start : PlaceOf(edit, text, range.end);
+  const CaretPlace start = PlaceOf(edit, text, range.start);
+  const CaretPlace end = range.end == range.start ? start : PlaceOf(edit, text, range.end);
   return {start.line, start.column, end.line, end.column};
 }
 

@@ -56,7 +56,7 @@ constexpr Stroke kStart[] = {
 constexpr Stroke kBreak[] = {Area(kNavy, 4, 3, 6, 12), Area(kNavy, 9, 3, 11, 12)};
 constexpr Stroke kEnd[] = {Area(kNavy, 4, 4, 11, 11)};
 
-constexpr CommandPicture kPictures[] = {
+constexpr CommandPicture kFilePictures[] = {
     {command::kAddProject, kProject}, {command::kNewProject, kProject}, {command::kAddForm, kForm},
     {command::kSaveFile, kSave},
     {command::kOpenProject, kOpen},
@@ -67,6 +67,6 @@ constexpr CommandPicture kPictures[] = {
 
 }  // namespace
 
-std::span<const CommandPicture> FileGlyphs() { return kPictures; }
+std::span<const CommandPicture> FileGlyphs() { return kFilePictures; }
 
 }  // namespace brimwork::bench

@@ -31,15 +31,15 @@ constexpr Field kFields[] = {
     {L"BUTTON", L"&Find Next", WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK, {310, 9, 84, 23}},
     {L"BUTTON", L"Cancel", WS_TABSTOP | BS_PUSHBUTTON, IDCANCEL, {310, 37, 84, 23}}};
 
-constexpr int kWidth = 404;
-constexpr int kHeight = 92;
+constexpr int kDialogWidth = 404;
+constexpr int kDialogHeight = 92;
 
 }  // namespace
 
 FindDialog::FindDialog(HWND owner, const Fonts& fonts, std::function<void(const SearchQuery&)> find)
     : find_(std::move(find)) {
   constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
-  RECT whole = {0, 0, kWidth, kHeight};
+  RECT whole = {0, 0, kDialogWidth, kDialogHeight};
   AdjustWindowRect(&whole, kStyle, FALSE);
   Create({.className = L"BrimworkBenchFind",
           .title = L"Find",

@@ -18,15 +18,15 @@ constexpr DWORD kLeastDelay = 15;  // milliseconds
 constexpr DWORD kMostDelay = 500;
 constexpr UINT kFirstChild = 0xE000;  // numbers that the client gives its windows
 
-constexpr int kWidth = 1000;
-constexpr int kHeight = 720;
+constexpr int kFrameWidth = 1000;
+constexpr int kFrameHeight = 720;
 
 }  // namespace
 
 MainFrame::MainFrame(FrameEvents& events) : events_(events), idleDelay_(kLeastDelay) {
   Create({.className = L"BrimworkBench",
           .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-          .bounds = {12, 12, kWidth, kHeight}});
+          .bounds = {12, 12, kFrameWidth, kFrameHeight}});
   icon_ = IconOf(Drawn(ProjectGlyph()));
   SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
   SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.get()));

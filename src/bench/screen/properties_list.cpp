@@ -12,7 +12,7 @@
 namespace brimwork::bench {
 namespace {
 
-constexpr int kTitle = 22;  // the line above the list
+constexpr int kTitleColumn = 22;  // the line above the list
 
 std::string ClassOf(int componentType) {
   switch (componentType) {
@@ -170,7 +170,7 @@ void PropertiesList::Arrange() {
   RECT room{};
   GetClientRect(Handle(), &room);
   const auto width = static_cast<int>(room.right);
-  MoveWindow(list_, 0, kTitle, width, std::max<int>(room.bottom - kTitle, 0), TRUE);
+  MoveWindow(list_, 0, kTitleColumn, width, std::max<int>(room.bottom - kTitleColumn, 0), TRUE);
   SendMessageW(list_, LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(width * 2 / 5, 0));
   SendMessageW(list_, LVM_SETCOLUMNWIDTH, 1, MAKELPARAM(width - width * 2 / 5, 0));
 }
@@ -180,7 +180,7 @@ void PropertiesList::PaintTitle() {
   const Painting painting(Handle());
   RECT title{};
   GetClientRect(Handle(), &title);
-  title.bottom = kTitle;
+  title.bottom = kTitleColumn;
   FillRect(painting.Context(), &title, GetSysColorBrush(COLOR_BTNFACE));
   const auto component = parts_.bench.SelectedComponent();
   if (component == nullptr) return;
@@ -215,7 +215,7 @@ void PropertiesList::EditName() {
   cell.left = LVIR_BOUNDS;
   cell.top = 1;  // the column
   SendMessageW(list_, LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
-  OffsetRect(&cell, 0, kTitle);
+  OffsetRect(&cell, 0, kTitleColumn);
   cell.bottom += 2;
   field_->Open(component->LastName(), cell);
 }

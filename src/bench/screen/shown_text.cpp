@@ -17,12 +17,12 @@ int Offset(std::string_view text, int line, int column) {
   return CharacterCount(text.substr(0, start)) + column - 1;
 }
 
-struct Place {
+struct ShownPlace {
   int line;
   int column;
 };
 
-Place PlaceOf(std::string_view text, int offset) {
+ShownPlace PlaceOf(std::string_view text, int offset) {
   const std::string_view before = text.substr(0, ByteOffset(text, offset));
   const auto lines = SplitLines(before);
   return {static_cast<int>(lines.size()), CharacterCount(lines.back()) + 1};
@@ -33,8 +33,8 @@ Place PlaceOf(std::string_view text, int offset) {
 void PaneText::SetText(std::string_view text) { TakeOverText(*module_, text); }
 
 Selection PlainText::GetSelection() {
-  const Place start = PlaceOf(text_->Text(), text_->Start());
-  const Place end = PlaceOf(text_->Text(), text_->Start() + text_->Length());
+  const ShownPlace start = PlaceOf(text_->Text(), text_->Start());
+  const ShownPlace end = PlaceOf(text_->Text(), text_->Start() + text_->Length());
   return {start.line, start.column, end.line, end.column};
 }
 

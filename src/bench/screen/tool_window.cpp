@@ -12,8 +12,8 @@
 namespace brimwork::bench {
 namespace {
 
-constexpr int kCaption = 17;
-constexpr int kEdge = 1;
+constexpr int kCaptionHeight = 17;
+constexpr int kEdgeWidth = 1;
 
 }  // namespace
 
@@ -74,14 +74,15 @@ void ToolWindow::Arrange() {
   if (!content_) return;
   RECT room{};
   GetClientRect(Handle(), &room);
-  content_->Arrange({kEdge, kEdge + kCaption, std::max<int>(room.right - 2 * kEdge, 0),
-                     std::max<int>(room.bottom - kCaption - 2 * kEdge, 0)});
+  content_->Arrange({kEdgeWidth, kEdgeWidth + kCaptionHeight,
+                     std::max<int>(room.right - 2 * kEdgeWidth, 0),
+                     std::max<int>(room.bottom - kCaptionHeight - 2 * kEdgeWidth, 0)});
 }
 
 RECT ToolWindow::CaptionArea() const {
   RECT room{};
   GetClientRect(Handle(), &room);
-  return {kEdge, kEdge, room.right - kEdge, kEdge + kCaption};
+  return {kEdgeWidth, kEdgeWidth, room.right - kEdgeWidth, kEdgeWidth + kCaptionHeight};
 }
 
 RECT ToolWindow::CloseArea() const {

@@ -43,7 +43,7 @@ constexpr Stroke kWatch[] = {
     Frame(kBlack, 9, 9, 14, 13), Line(kBlack, 7, 10, 8, 10), Line(kBlack, 2, 8, 5, 3),
     Line(kBlack, 13, 8, 10, 3), Area(kSky, 2, 10, 5, 12), Area(kSky, 10, 10, 13, 12)};
 
-constexpr Stroke kProject[] = {
+constexpr Stroke kProjectWindow[] = {
     Area(kSky, 2, 4, 10, 12), Frame(kNavy, 2, 4, 10, 12), Area(kYellow, 6, 7, 14, 14),
     Frame(kOlive, 6, 7, 14, 14), Line(kOlive, 6, 9, 14, 9)};
 constexpr Stroke kFolder[] = {
@@ -55,13 +55,13 @@ constexpr Stroke kModule[] = {
 constexpr Stroke kClass[] = {
     Area(kYellow, 2, 2, 8, 8), Frame(kOlive, 2, 2, 8, 8), Area(kSky, 7, 6, 13, 10),
     Frame(kNavy, 7, 6, 13, 10), Area(kWhite, 3, 9, 9, 14), Frame(kMaroon, 3, 9, 9, 14)};
-constexpr Stroke kForm[] = {
+constexpr Stroke kFormWindow[] = {
     Area(kWhite, 1, 2, 14, 13), Frame(kGrey, 1, 2, 14, 13), Area(kBlue, 1, 2, 14, 4)};
 
 constexpr Stroke kPlain[] = {
     Area(kSilver, 3, 3, 12, 12), Frame(kGrey, 3, 3, 12, 12)};
 
-constexpr CommandPicture kPictures[] = {
+constexpr CommandPicture kWindowPictures[] = {
     {command::kProjectExplorer, kProjectTree}, {command::kPropertiesWindow, kProperties}, {command::kFormLayout, kFormLayout},
     {command::kObjectBrowser, kObjectBrowser}, {command::kToolbox, kToolbox}, {command::kViewObject, kViewObject},
     {command::kViewCode, kViewCode}, {command::kImmediateWindow, kImmediate}, {command::kLocalsWindow, kLocals}, {command::kWatchWindow, kWatch},
@@ -70,7 +70,7 @@ constexpr CommandPicture kPictures[] = {
 
 }  // namespace
 
-std::span<const CommandPicture> WindowGlyphs() { return kPictures; }
+std::span<const CommandPicture> WindowGlyphs() { return kWindowPictures; }
 
 Glyph ComponentGlyph(int componentType) {
   switch (componentType) {
@@ -82,14 +82,14 @@ Glyph ComponentGlyph(int componentType) {
     case component_type::kMdiForm:
     case component_type::kPropertyPage:
     case component_type::kUserControl:
-      return kForm;
+      return kFormWindow;
     default:
       return kViewCode;
   }
 }
 
 Glyph PlainGlyph() { return kPlain; }
-Glyph ProjectGlyph() { return kProject; }
+Glyph ProjectGlyph() { return kProjectWindow; }
 Glyph FolderGlyph() { return kFolder; }
 
 }  // namespace brimwork::bench
