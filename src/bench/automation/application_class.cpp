@@ -13,7 +13,16 @@ namespace {
 constexpr CLSID kApplication = {
     0x8d0c1f5a, 0x3b7e, 0x4c62, {0x9a, 0x41, 0x5e, 0x27, 0xc8, 0x96, 0x0d, 0xb3}};
 constexpr const char* kProgId = "BrimworkBench.Application";
-constexpr const char* kClasses = "Software\\Classes\\";
+
+/// A place for classes in the registry.
+struct ClassesRoot {
+  HKEY root;
+  std::string path;  // in front of a class's own
+};
+
+// The second is for systems that do not show a user's classes among all, as Wine up to 8 does not.
+const ClassesRoot kOfTheUser{HKEY_CURRENT_USER, "Software\\Classes\\"};
+const ClassesRoot kOfAll{HKEY_CLASSES_ROOT, ""};
 
 /// Every object it makes is the one root of the object model.
 class ApplicationFactory final : public IClassFactory {
@@ -56,18 +65,40 @@ class ApplicationFactory final : public IClassFactory {
   ULONG references_ = 0;
 };
 
-std::string ClassKey() {
+std::string ClassText() {
   constexpr int kSize = 39;
   wchar_t text[kSize];
   StringFromGUID2(kApplication, text, kSize);
-  return std::string(kClasses) + "CLSID\\" + win32::Narrow(text);
+  return win32::Narrow(text);
 }
+
+std::string ClassKey() { return "CLSID\\" + ClassText(); }
 
 /// Programs of both word sizes may be its clients.
 constexpr REGSAM kViews[] = {KEY_WOW64_32KEY, KEY_WOW64_64KEY};
 
-void WriteDefault(const std::string& path, const std::string& text, REGSAM view = 0) {
-  win32::RegistryKey::Make(HKEY_CURRENT_USER, path, view).SetText("", text);
+void WriteDefault(const ClassesRoot& place, const std::string& key, const std::string& text,
+                  REGSAM view = 0) {
+  win32::RegistryKey::Make(place.root, place.path + key, view).SetText("", text);
+}
+
+void Register(const ClassesRoot& place, const std::string& program) {
+  WriteDefault(place, kProgId, "Brimwork Bench");
+  WriteDefault(place, std::string(kProgId) + "\\CLSID", ClassText());
+  for (const REGSAM view : kViews) {
+    WriteDefault(place, ClassKey(), "Brimwork Bench", view);
+    WriteDefault(place, ClassKey() + "\\ProgID", kProgId, view);
+    WriteDefault(place, ClassKey() + "\\LocalServer32", "\"" + program + "\" /automation", view);
+  }
+}
+
+void Unregister(const ClassesRoot& place) {
+  win32::RemoveKey(place.root, place.path + kProgId);
+  for (const REGSAM view : kViews) win32::RemoveKey(place.root, place.path + ClassKey(), view);
+}
+
+bool IsAmongAllClasses() {
+  return win32::RegistryKey(HKEY_CLASSES_ROOT, kProgId, KEY_READ).IsOpen();
 }
 
 }  // namespace
@@ -89,19 +120,13 @@ ApplicationClass::~ApplicationClass() {
 }
 
 void RegisterApplicationClass(const std::string& program) {
-  const std::string clsid = ClassKey().substr(ClassKey().rfind('\\') + 1);
-  WriteDefault(std::string(kClasses) + kProgId, "Brimwork Bench");
-  WriteDefault(std::string(kClasses) + kProgId + "\\CLSID", clsid);
-  for (const REGSAM view : kViews) {
-    WriteDefault(ClassKey(), "Brimwork Bench", view);
-    WriteDefault(ClassKey() + "\\ProgID", kProgId, view);
-    WriteDefault(ClassKey() + "\\LocalServer32", "\"" + program + "\" --automation", view);
-  }
+  Register(kOfTheUser, program);
+  if (!IsAmongAllClasses()) Register(kOfAll, program);
 }
 
 void UnregisterApplicationClass() {
-  win32::RemoveKey(HKEY_CURRENT_USER, std::string(kClasses) + kProgId);
-  for (const REGSAM view : kViews) win32::RemoveKey(HKEY_CURRENT_USER, ClassKey(), view);
+  Unregister(kOfTheUser);
+  if (IsAmongAllClasses()) Unregister(kOfAll);
 }
 
 }  // namespace brimwork::bench

@@ -49,12 +49,13 @@ Sub ShowProject(project)
 End Sub
 
 Sub ShowProcedures(module)
-    Dim line, name, kind
+    Dim line, name, kind, kinds
+    kinds = Split(ProcKinds, ",")
     line = module.CountOfDeclarationLines + 1
     Do While line <= module.CountOfLines
         name = module.ProcOfLine(line, kind)
         If name = "" Then Exit Do
-        out.Say Split(ProcKinds, ",")(kind) & ": " & name & ", start " & _
+        out.Say kinds(kind) & ": " & name & ", start " & _
             module.ProcStartLine(name, kind) & ", body " & module.ProcBodyLine(name, kind) & _
             ", " & module.ProcCountLines(name, kind) & " lines"
         line = module.ProcStartLine(name, kind) + module.ProcCountLines(name, kind)

@@ -157,7 +157,9 @@ class Expected {
     bar->Delete();
   }
 
+  // On the screen the toolbox is shown beside designers only.
   void ShowWindows() {
+    workbench_.windows.toolbox->SetVisible(false);
     for (const auto& window : workbench_.vbe.Windows()) {
       Say("window: " + window->Caption() + ", type " + std::to_string(window->Type()) +
           ", visible " + TruthOf(window->Visible()));

@@ -100,7 +100,7 @@ class RegisteredTestAddIn final : public IClassFactory {
     CoCreateGuid(&clsid_);
     wchar_t text[39];
     StringFromGUID2(clsid_, text, 39);
-    win32::RegistryKey::Make(HKEY_CURRENT_USER, "Software\\Classes\\" + progId_ + "\\CLSID")
+    win32::RegistryKey::Make(HKEY_CLASSES_ROOT, progId_ + "\\CLSID")
         .SetText("", win32::Narrow(text));
     auto key = win32::RegistryKey::Make(HKEY_CURRENT_USER, AddInKey());
     key.SetText("FriendlyName", "Friendly " + progId_);
@@ -110,7 +110,7 @@ class RegisteredTestAddIn final : public IClassFactory {
   }
   virtual ~RegisteredTestAddIn() {
     CoRevokeClassObject(registration_);
-    win32::RemoveKey(HKEY_CURRENT_USER, "Software\\Classes\\" + progId_);
+    win32::RemoveKey(HKEY_CLASSES_ROOT, progId_);
     win32::RemoveKey(HKEY_CURRENT_USER, AddInKey());
   }
   RegisteredTestAddIn(const RegisteredTestAddIn&) = delete;

@@ -2,8 +2,11 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <stdexcept>
+#include <utility>
 
+#include "support/temporary_folder.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
@@ -37,12 +40,11 @@ std::wstring CommandLineOf(const std::vector<std::string>& words) {
   return line;
 }
 
-std::string ReadAll(HANDLE pipe) {
-  std::string all;
-  char part[4096];
-  DWORD size = 0;
-  while (ReadFile(pipe, part, sizeof part, &size, nullptr) && size > 0) all.append(part, size);
-  return all;
+// A file rather than a pipe: programs that it starts may keep what they inherit open for longer.
+HANDLE NewOutputFile(const std::filesystem::path& path) {
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  return CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                     CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 }  // namespace
@@ -63,13 +65,9 @@ std::vector<std::string> ProgramRun::Lines() const {
 }
 
 ProgramRun RunProgram(const std::vector<std::string>& words) {
-  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-  HANDLE readEnd = nullptr;
-  HANDLE writeEnd = nullptr;
-  if (!CreatePipe(&readEnd, &writeEnd, &inherited, 0)) throw std::runtime_error("no pipe");
-  const Handle reading(readEnd);
-  Handle writing(writeEnd);
-  SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+  const TemporaryFolder folder;
+  const auto outputFile = folder / "output.txt";
+  Handle writing(NewOutputFile(outputFile));
 
   STARTUPINFOW start{};
   start.cb = sizeof start;
@@ -88,7 +86,6 @@ ProgramRun RunProgram(const std::vector<std::string>& words) {
   writing.Close();
 
   ProgramRun run;
-  run.output = ReadAll(reading.Get());
   if (WaitForSingleObject(process.Get(), kMillisecondsForAProgram) != WAIT_OBJECT_0) {
     TerminateProcess(process.Get(), 1);
     throw std::runtime_error(words.front() + " does not end");
@@ -96,6 +93,7 @@ ProgramRun RunProgram(const std::vector<std::string>& words) {
   DWORD code = 0;
   GetExitCodeProcess(process.Get(), &code);
   run.exitCode = static_cast<int>(code);
+  run.output = ReadBytes(outputFile);
   return run;
 }
 
