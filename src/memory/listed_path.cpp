@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "environment/text.h"
+#include "memory/disk_entry.h"
 #include "memory/utf8_path.h"
 
 namespace brimwork {
@@ -40,13 +41,13 @@ std::vector<std::string> PartsOf(std::string_view listed) {
 /// The entry of folder with this name, else the first by the alphabet whose name differs only in
 /// case; empty when there is none.
 fs::path FindEntry(const fs::path& folder, const std::string& name) {
-  std::error_code ignored;
-  if (fs::exists(folder / PathOf(name), ignored)) return folder / PathOf(name);
+  if (const fs::path entry = DiskEntry(folder, name); !entry.empty()) return entry;
   fs::path found;
+  std::error_code ignored;
   const fs::path listed = folder.empty() ? fs::path(".") : folder;
   for (fs::directory_iterator entry(listed, ignored), end; entry != end; entry.increment(ignored)) {
     const fs::path candidate = entry->path().filename();
-    if (!EqualNames(candidate.string(), name)) continue;
+    if (!EqualNames(TextOf(candidate), name)) continue;
     if (found.empty() || candidate < found) found = candidate;
   }
   return found.empty() ? found : folder / found;

@@ -1,11 +1,10 @@
 #include "memory/source_file.h"
 
-#include <filesystem>
-
 #include "environment/utf8.h"
 #include "memory/source_composer.h"
 #include "memory/source_error.h"
 #include "memory/source_text.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork {
 
@@ -21,7 +20,7 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
   file.module_ = std::move(parsed.text);
   file.moduleName_ = file.layout_.preamble.moduleName;
   if (file.moduleName_.empty())
-    file.moduleName_ = std::filesystem::path(file.path_).stem().string();
+    file.moduleName_ = TextOf(PathOf(file.path_).stem());
   return file;
 }
 

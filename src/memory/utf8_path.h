@@ -1,4 +1,5 @@
-// Paths of the disk from the program's own texts, which are UTF-8 on every system.
+// Paths of the disk from the program's own texts, and back. These are UTF-8 on every system, while
+// a path made of a plain string is taken for the user's code page on Windows.
 #pragma once
 
 #include <filesystem>
@@ -7,9 +8,10 @@
 
 namespace brimwork {
 
-/// path.string() is the way back.
-inline std::filesystem::path PathOf(std::string_view utf8) {
-  return std::u8string(utf8.begin(), utf8.end());
-}
+/// Damaged UTF-8 gives U+FFFD in its place on Windows.
+std::filesystem::path PathOf(std::string_view utf8);
+
+/// What has no UTF-8 in a name on Windows gives U+FFFD. Never throws, unlike path.string().
+std::string TextOf(const std::filesystem::path& path);
 
 }  // namespace brimwork
