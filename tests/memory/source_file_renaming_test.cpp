@@ -4,15 +4,10 @@
 #include <string>
 
 #include "memory/source_file.h"
+#include "support/source_files.h"
 
 namespace brimwork {
 namespace source_file_renaming_test {
-
-std::string Composed(const SourceFile& file, const ModuleText& text) {
-  std::string bytes;
-  file.Compose(text, [&](std::string_view piece) { bytes.append(piece); });
-  return bytes;
-}
 
 TEST(SourceFileRenaming, ChangesTheNameAndNoOtherByte) {
   const std::string bytes =
