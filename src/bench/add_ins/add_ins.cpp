@@ -79,16 +79,19 @@ void AddIns::Shutdown() {
 }
 
 void AddIns::Connect(AddIn& addIn, ConnectMode mode) {
-  if (addIn.IsConnected()) return;
+  if (addIn.IsConnected() || addIn.isConnecting_) return;
   if (isShutDown_) throw ConnectionFailure("the environment is closing");
   const auto stays = addIn.shared_from_this();
   records_.emplace_back();
+  addIn.isConnecting_ = true;
   try {
     addIn.connection_ = std::make_unique<Connection>(Session::Open(workbench_, surface_, *this),
                                                      stays, mode, records_.back());
     addIn.lastFailure_.clear();
+    addIn.isConnecting_ = false;
   } catch (const ConnectionFailure& failure) {
     addIn.lastFailure_ = failure.what();
+    addIn.isConnecting_ = false;
     throw;
   }
   surface_.ShowChanges();

@@ -90,6 +90,7 @@ class AddIn : public AddInEntry, public std::enable_shared_from_this<AddIn> {
   std::unique_ptr<Connection> connection_;
   win32::ComPointer<IDispatch> object_;
   std::string lastFailure_;
+  bool isConnecting_ = false;  // an add-in may ask for its own connection meanwhile
 };
 
 }  // namespace brimwork::bench

@@ -41,7 +41,7 @@ HKEY RootOf(Scope scope) {
   return scope == Scope::kMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
 }
 
-void AppendClass(std::vector<RegistryValue>& values, const std::string& path, HKEY root) {
+void AppendClass(std::vector<RegistryEntry>& values, const std::string& path, HKEY root) {
   values.push_back({root, ProgIdKey(), "", kTitle});
   values.push_back({root, ProgIdKey() + "\\CLSID", "", ClassText()});
   values.push_back({root, ClassKey(), "", kTitle});
@@ -50,14 +50,14 @@ void AppendClass(std::vector<RegistryValue>& values, const std::string& path, HK
   values.push_back({root, ClassKey() + "\\InprocServer32", "ThreadingModel", "Apartment"});
 }
 
-void AppendAddIn(std::vector<RegistryValue>& values, const std::string& key) {
+void AppendAddIn(std::vector<RegistryEntry>& values, const std::string& key) {
   values.push_back({HKEY_CURRENT_USER, key, "FriendlyName", kTitle});
   values.push_back({HKEY_CURRENT_USER, key, "Description", kDescription});
   values.push_back({HKEY_CURRENT_USER, key, "LoadBehavior", kLoadBehavior});
   values.push_back({HKEY_CURRENT_USER, key, "CommandLineSafe", 0ul});
 }
 
-void Write(const RegistryValue& entry) {
+void Write(const RegistryEntry& entry) {
   win32::RegistryKey key = win32::RegistryKey::Make(entry.root, entry.key);
   if (const auto* text = std::get_if<std::string>(&entry.value)) {
     key.SetText(entry.name, *text);
@@ -73,8 +73,8 @@ void RemoveClass(HKEY root) {
 
 }  // namespace
 
-std::vector<RegistryValue> RegistrationOf(const std::string& path, Scope scope) {
-  std::vector<RegistryValue> values;
+std::vector<RegistryEntry> RegistrationOf(const std::string& path, Scope scope) {
+  std::vector<RegistryEntry> values;
   AppendClass(values, path, RootOf(scope));
   for (const std::string& key : AddInKeys()) AppendAddIn(values, key);
   return values;
@@ -88,7 +88,7 @@ Scope AvailableScope() {
 
 void Register(const std::string& path, Scope scope) {
   try {
-    for (const RegistryValue& value : RegistrationOf(path, scope)) Write(value);
+    for (const RegistryEntry& value : RegistrationOf(path, scope)) Write(value);
   } catch (const RunTimeError&) {
     Unregister();
     throw;

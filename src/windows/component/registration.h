@@ -12,7 +12,7 @@ namespace brimwork::windows {
 /// For whom the class is registered.
 enum class Scope { kMachine, kUser };
 
-struct RegistryValue {
+struct RegistryEntry {
   HKEY root;
   std::string key;
   std::string name;  // "" for the key's default value
@@ -21,7 +21,7 @@ struct RegistryValue {
 
 /// All values of an installation of the component at a path, in the order of their writing: the
 /// class, then the lists of add-ins of the editors of this word size, which are always the user's.
-std::vector<RegistryValue> RegistrationOf(const std::string& path, Scope scope);
+std::vector<RegistryEntry> RegistrationOf(const std::string& path, Scope scope);
 
 /// The machine's when the process may write there, which an elevated one may; else the user's.
 Scope AvailableScope();

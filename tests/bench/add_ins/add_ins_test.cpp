@@ -154,6 +154,18 @@ TEST_F(AddInsOfTheBench, MayBeConnectedByAnotherProgram) {
   session->End();
 }
 
+TEST_F(AddInsOfTheBench, MayAskForTheConnectionThatIsUnderWay) {
+  AddIns addIns(workbench, surface);
+  quiet.onConnection = [&](IDispatch*, IDispatch* addIn) {
+    EXPECT_EQ(Client(ComPointer<IDispatch>(addIn)).Put(L"Connect", win32::Variant(true)).result,
+              S_OK);
+    return S_OK;
+  };
+  addIns.Start();
+  EXPECT_THAT(quiet.calls, ElementsAre("OnConnection 1"));
+  addIns.Shutdown();
+}
+
 TEST_F(AddInsOfTheBench, GetAnErrorWhenAnotherProgramCannotConnectThem) {
   quiet.onConnection = [](IDispatch*, IDispatch*) { return E_FAIL; };
   AddIns addIns(workbench, surface);
