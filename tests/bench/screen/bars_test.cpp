@@ -295,13 +295,6 @@ TEST_F(MenusOnScreen, ExecuteWhatIsChosen) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(MenusOnScreen, ExecuteNothingThatIsGone) {
-  const auto control = AddControl(*bench.bars.addIns->Entries(), "&Mine");
-  const HMENU menu = Menu("&Add-Ins");
-  control->Delete();
-  Choose(menu, GetMenuItemCount(menu) - 1);
-}
-
 TEST_F(MenusOnScreen, OpenPopupsWithinMenus) {
   const auto popup = AddControl(*bench.bars.addIns->Entries(), "&More", control_type::kPopup);
   AddControl(*popup->Entries(), "&Inner");

@@ -177,16 +177,6 @@ TEST_F(CodeWindows, ScrollToTheLineThatIsAskedFor) {
   EXPECT_EQ(windows->TopLineOf(pane), 1);
 }
 
-TEST_F(CodeWindows, StayWhereTheyAreScrolledWhenTheModuleChanges) {
-  std::string lines;
-  for (int line = 0; line < 200; ++line) lines += "' line\r\n";
-  module->Code()->InsertLines(1, lines);
-  windows->SetTopLineOf(pane, 50);
-  module->Code()->ReplaceLine(60, "' other");
-  Show();
-  EXPECT_EQ(windows->TopLineOf(pane), 50);
-}
-
 TEST_F(CodeWindows, TakeManyChangesAtTheCostOfOne) {
   std::string lines;
   for (int line = 0; line < 20000; ++line) lines += "' line\r\n";

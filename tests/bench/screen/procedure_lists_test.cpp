@@ -32,6 +32,7 @@ constexpr const char* kForm =
 
 TEST(ProcedureLists, GiveEventsToTheirObjects) {
   MemoryCodeModule module = Module(kForm);
+  module.GiveLinesBelowToTheLastProcedure();
   EXPECT_THAT(ListProcedures(module, true),
               ElementsAre(ListedProcedure{"Form", "Load", 2, 4, 5},
                           ListedProcedure{"", "Size [PropertyGet]", 6, 6, 7},
@@ -75,6 +76,7 @@ TEST(ProcedureLists, NameEachObjectOnceInOrder) {
 
 TEST(ProcedureLists, KnowTheProcedureOfALine) {
   MemoryCodeModule module = Module(kForm);
+  module.GiveLinesBelowToTheLastProcedure();
   const auto procedures = ListProcedures(module, true);
   EXPECT_EQ(ProcedureAt(procedures, 1), nullptr);
   EXPECT_EQ(ProcedureAt(procedures, 3), &procedures[0]);

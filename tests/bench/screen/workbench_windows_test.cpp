@@ -112,16 +112,6 @@ TEST_F(WorkbenchOnScreen, MakesActiveWhatTheUserGivesTheFocus) {
   }
 }
 
-TEST_F(WorkbenchOnScreen, LeavesNoWindowActiveWhenTheModelClosesTheActiveOne) {
-  OpenModule();
-  const auto second = bench.PaneOf(form)->ContainingWindow();
-  Show();
-  second->Close();
-  Show();
-  EXPECT_EQ(bench.vbe.ActiveWindow(), nullptr);
-  EXPECT_EQ(GetFocus(), windows->Frame());
-}
-
 TEST_F(WorkbenchOnScreen, GivesTheFocusBackWhenTheMainWindowGetsIt) {
   const auto code = OpenModule().ContainingWindow();
   SetFocus(nullptr);
@@ -152,16 +142,6 @@ TEST_F(WorkbenchOnScreen, CarriesTheImmediateWindowsSelection) {
   SelectUnits(edit, {4, 6});
   windows->TakeInput();
   EXPECT_EQ(bench.windows.immediateText->SelectedText(), "cd");
-}
-
-TEST_F(WorkbenchOnScreen, MaximizesAndMinimizesCodeWindows) {
-  const auto window = std::static_pointer_cast<MemoryWindow>(OpenModule().ContainingWindow());
-  EXPECT_EQ(windows->StateOf(*window), WindowState::kNormal);
-  for (const auto state :
-       {WindowState::kMaximized, WindowState::kMinimized, WindowState::kNormal}) {
-    windows->SetStateOf(*window, state);
-    EXPECT_EQ(windows->StateOf(*window), state);
-  }
 }
 
 TEST_F(WorkbenchOnScreen, MovesCodeWindows) {
