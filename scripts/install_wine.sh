@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Installs Wine for Windows programs of 32 and 64 bits, a screen in memory and the MinGW compilers.
-# Touches nothing when they are there. Needs root otherwise, and adds the i386 architecture.
+# Touches nothing when they are there. Needs root or sudo otherwise, and adds the i386 architecture.
 set -euo pipefail
 
 packages=(g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
-          wine wine64 wine32:i386 xvfb xauth xdotool)
+          wine wine64 wine32:i386 fonts-wine fonts-liberation xvfb xauth xdotool)
 
 IsInstalled() {
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
@@ -41,7 +41,12 @@ for package in "${packages[@]}"; do
   IsInstalled "$package" || missing+=("$package")
 done
 [[ ${#missing[@]} -gt 0 ]] || exit 0
+{ command -v apt-get && command -v dpkg-query; } >/dev/null || {
+  echo "install_wine: this is no Debian machine; install the equivalents of ${missing[*]} by hand" >&2
+  exit 2
+}
 if [[ $EUID -ne 0 ]]; then
+  if command -v sudo >/dev/null; then exec sudo -- "${BASH_SOURCE[0]}"; fi
   echo "install_wine: run it as root once, it has to install ${missing[*]}" >&2
   exit 2
 fi

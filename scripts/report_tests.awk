@@ -23,6 +23,8 @@ function Fail(what) {
   print what
 }
 
+# Windows programs end their lines so.
+{ sub(/\r$/, "") }
 FNR == 1 { Forget(); done = 0; failedInShard = 0; behindTests = "" }
 
 /^\[ RUN      \] / {

@@ -1,13 +1,18 @@
 #!/usr/bin/env bash
 # Runs a test program in shards, as many at a time as there are processors, and prints what the
 # tests that did not pass had to say, then "count PASSED FAILED SKIPPED".
-# Usage: scripts/run_tests.sh LOG_FOLDER PROGRAM [ARGUMENT...]
+# Usage: scripts/run_tests.sh [--one-by-one] LOG_FOLDER PROGRAM [ARGUMENT...]
+#   --one-by-one  for tests that share a screen or a clipboard
 # A shard that crashes or hangs counts as one failed test and names the test that it was at.
 set -euo pipefail
 top=$(dirname -- "${BASH_SOURCE[0]}")
+shards=8
+if [[ $1 == --one-by-one ]]; then
+  shards=1
+  shift
+fi
 logs=$1
 shift
-shards=8
 secondsForAShard=900
 
 RunShard() {

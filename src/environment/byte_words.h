@@ -1,6 +1,10 @@
 // Questions asked of every line of a module, answered eight bytes at a time.
 #pragma once
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -39,6 +43,18 @@ bool AnyWord(std::string_view text, IsMarked isMarked) {
 /// The high bit of each byte of word that is zero.
 constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
   return ~(((word & ~kHighBits) + ~kHighBits) | word | ~kHighBits);
+}
+
+/// Sixteen bytes, each 0 or 1, as the low bits of a number, the first the lowest.
+inline std::uint64_t Packed(const unsigned char* flags) {
+#ifdef __SSE2__
+  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(flags));
+  return static_cast<unsigned>(_mm_movemask_epi8(_mm_slli_epi16(bytes, 7)));
+#else
+  std::uint64_t packed = 0;
+  for (unsigned i = 0; i < 16; ++i) packed |= std::uint64_t{flags[i]} << i;
+  return packed;
+#endif
 }
 
 /// How many bytes stand in front of the first sought one, which there is. Up to seven bytes behind

@@ -27,6 +27,8 @@ inline constexpr int kPopup = 10;
 
 namespace button_style {
 inline constexpr int kAutomatic = 0;
+inline constexpr int kIcon = 1;
+inline constexpr int kCaption = 2;
 inline constexpr int kIconAndCaption = 3;
 }  // namespace button_style
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -34,28 +33,10 @@ class PaddedText {
   void AppendPadded(std::string_view text) {
     char* const end = EndWithRoomFor(text.size());
     std::memcpy(end, text.data(), kPadding);
-    if (text.size() > kPadding) [[unlikely]] {
-      std::memcpy(end + kPadding, text.data() + kPadding, text.size() - kPadding);
+    for (std::size_t copied = kPadding; copied < text.size(); copied += kPadding) {
+      std::memcpy(end + copied, text.data() + copied, kPadding);
     }
     size_ += text.size();
-  }
-
-  /// Appends the characters in front of the first one that is not wanted; returns their number.
-  std::size_t AppendWhile(std::string_view text, const std::array<bool, 256>& wanted) {
-    const auto isWanted = [&](std::size_t at) {
-      return wanted[static_cast<unsigned char>(text[at])];
-    };
-    const auto areWanted = [&](std::size_t at) {
-      return isWanted(at) & isWanted(at + 1) & isWanted(at + 2) & isWanted(at + 3);
-    };
-    char* const end = EndWithRoomFor(text.size());
-    std::size_t size = 0;
-    for (; size + 4 <= text.size() && areWanted(size); size += 4) {
-      std::memcpy(end + size, text.data() + size, 4);
-    }
-    for (; size < text.size() && isWanted(size); ++size) end[size] = text[size];
-    size_ += size;
-    return size;
   }
 
   void Append(char c) {

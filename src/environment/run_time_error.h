@@ -23,6 +23,7 @@ inline constexpr int kInvalidClipboardFormat = 461;
 inline constexpr int kInvalidFileFormat = 32000;
 inline constexpr int kNameConflict = 32813;
 inline constexpr int kElementNotFound = 35601;
+inline constexpr int kUnspecified = -2147467259;  // a component object's "unspecified error"
 }  // namespace error_number
 
 class RunTimeError : public std::runtime_error {

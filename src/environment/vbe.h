@@ -31,6 +31,15 @@ class CodePane {
 /// The environment's own numbers for the kinds of components.
 namespace component_type {
 inline constexpr int kStandardModule = 1;
+inline constexpr int kClassModule = 2;
+inline constexpr int kResourceFile = 4;  // without code
+inline constexpr int kForm = 5;
+inline constexpr int kMdiForm = 6;
+inline constexpr int kPropertyPage = 7;
+inline constexpr int kUserControl = 8;
+inline constexpr int kUserDocument = 9;
+inline constexpr int kRelatedDocument = 10;  // without code
+inline constexpr int kDesigner = 11;
 }  // namespace component_type
 
 class VBComponent {

@@ -18,6 +18,7 @@ inline constexpr int kProject = 6;
 inline constexpr int kProperties = 7;
 inline constexpr int kToolbox = 10;
 inline constexpr int kMainWindow = 12;
+inline constexpr int kToolWindow = 15;  // an add-in's own
 }  // namespace window_type
 
 class Window {

@@ -124,7 +124,7 @@ void HtmlLines::OpenComment() {
 }
 
 inline void HtmlLines::ColorKeyword(std::string_view word) {
-  const bool isKeyword = !inString_ && keywords_.Holds(word);
+  const bool isKeyword = !inString_ && keywords_.Holds(word, word.size() + PaddedText::kPadding);
   if (isKeyword == keywordOpen_) return;
   outLine_.Append(isKeyword ? kKeywordOpenTag : kCloseTag);
   keywordOpen_ = isKeyword;

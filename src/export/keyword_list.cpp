@@ -13,6 +13,14 @@ std::string UpperCaseAscii(std::string_view text) {
   return upperCase;
 }
 
+std::string LowerCaseAscii(std::string_view text) {
+  std::string lowerCase(text);
+  for (char& c : lowerCase) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lowerCase;
+}
+
 int PositionIn(std::string_view text, std::string_view word, int nowhere) {
   const auto found = text.find(word);
   return found == std::string_view::npos ? nowhere : static_cast<int>(found);
@@ -20,28 +28,25 @@ int PositionIn(std::string_view text, std::string_view word, int nowhere) {
 
 }  // namespace
 
-KeywordList::Pairs::Pairs(std::string_view text) {
-  for (const char c : text) single_.set(Byte(c));
-  for (std::size_t i = 1; i < text.size(); ++i) pairs_.set(Index(text[i - 1], text[i]));
+void KeywordList::Pairs::Add(std::string_view left, std::string_view right) {
+  for (const char c : right) single_.set(Byte(c));
+  for (std::size_t i = 1; i < right.size(); ++i) pairs_.set(Index(left[i - 1], right[i]));
 }
 
 KeywordList::KeywordList(std::string text)
     : text_(std::move(text)),
       upperCase_(UpperCaseAscii(text_)),
-      pairs_(text_),
-      upperCasePairs_(upperCase_) {}
+      pairs_({text_}),
+      pairsOfAnyCase_({upperCase_, LowerCaseAscii(text_)}) {}
 
-int KeywordList::PositionOf(std::string_view word) {
-  return exact_.Of(word,
+int KeywordList::PositionOf(std::string_view word, std::size_t readable) {
+  return exact_.Of(word, readable,
                    [&](std::string_view sought) { return PositionIn(text_, sought, kNowhere); });
 }
 
-std::optional<std::string_view> KeywordList::KnownSpellingOf(std::string_view word) {
-  const int position = ignoringCase_.Of(word, [&](std::string_view sought) {
-    return PositionIn(upperCase_, UpperCaseAscii(sought), kNowhere);
-  });
-  if (position == kNowhere) return std::nullopt;
-  return std::string_view(text_).substr(static_cast<std::size_t>(position), word.size());
+int KeywordList::SearchIgnoringCase(std::string_view word) const {
+  if (!word.empty() && !pairsOfAnyCase_.MayHold(word)) return kNowhere;
+  return PositionIn(upperCase_, UpperCaseAscii(word), kNowhere);
 }
 
 }  // namespace brimwork

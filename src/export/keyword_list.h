@@ -3,11 +3,11 @@
 #pragma once
 
 #include <bitset>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "environment/text.h"
 #include "export/word_positions.h"
 
 namespace brimwork {
@@ -16,17 +16,23 @@ class KeywordList {
  public:
   explicit KeywordList(std::string text);
 
+  // A word of which more bytes can be read than it has, 16 at best, is found sooner.
+
   /// Whether word occurs in the list, letter for letter. The empty word occurs in every list.
-  bool Holds(std::string_view word) {
-    return word.empty() || (pairs_.MayHold(word) && PositionOf(word) != kNowhere);
+  bool Holds(std::string_view word, std::size_t readable) {
+    return word.empty() || (pairs_.MayHold(word) && PositionOf(word, readable) != kNowhere);
   }
+  bool Holds(std::string_view word) { return Holds(word, word.size()); }
 
   /// The first place in the list that equals word but for the case of its letters, as the list
   /// writes it; nothing when there is none. word: ASCII.
   std::optional<std::string_view> SpellingOf(std::string_view word) {
-    if (!word.empty() && !upperCasePairs_.MayHold(word, [](char c) { return ToUpperAscii(c); }))
-      return std::nullopt;
-    return KnownSpellingOf(word);
+    return SpellingOf(word, word.size());
+  }
+  std::optional<std::string_view> SpellingOf(std::string_view word, std::size_t readable) {
+    const int position = PositionIgnoringCase(word, readable);
+    if (position == kNowhere) return std::nullopt;
+    return std::string_view(text_).substr(static_cast<std::size_t>(position), word.size());
   }
 
  private:
@@ -36,24 +42,24 @@ class KeywordList {
   /// their first and their last pair.
   class Pairs {
    public:
-    explicit Pairs(std::string_view text);
+    /// forms: the text as it may be written, each character in any of them.
+    explicit Pairs(std::initializer_list<std::string_view> forms) {
+      for (const std::string_view left : forms) {
+        for (const std::string_view right : forms) Add(left, right);
+      }
+    }
 
     /// False when the text lacks what word, which is not empty, starts or ends with.
     bool MayHold(std::string_view word) const {
-      return MayHold(word, [](char c) { return c; });
-    }
-
-    /// The same for the word of which each character is changed so.
-    template <class Change>
-    bool MayHold(std::string_view word, Change change) const {
-      const auto at = [&](std::size_t i) { return change(word[i]); };
       const std::size_t size = word.size();
-      if (size == 1) return single_[Byte(at(0))];
-      return pairs_[Index(at(0), at(1))] && pairs_[Index(at(size - 2), at(size - 1))];
+      if (size == 1) return single_[Byte(word[0])];
+      return pairs_[Index(word[0], word[1])] && pairs_[Index(word[size - 2], word[size - 1])];
     }
 
    private:
     static constexpr std::size_t kBytes = 256;
+
+    void Add(std::string_view left, std::string_view right);
 
     static std::size_t Byte(char c) { return static_cast<unsigned char>(c); }
     static std::size_t Index(char first, char second) {
@@ -64,13 +70,17 @@ class KeywordList {
     std::bitset<kBytes * kBytes> pairs_;
   };
 
-  int PositionOf(std::string_view word);
-  std::optional<std::string_view> KnownSpellingOf(std::string_view word);
+  int PositionOf(std::string_view word, std::size_t readable);
+  int PositionIgnoringCase(std::string_view word, std::size_t readable) {
+    return ignoringCase_.Of(word, readable,
+                            [&](std::string_view sought) { return SearchIgnoringCase(sought); });
+  }
+  int SearchIgnoringCase(std::string_view word) const;
 
   std::string text_;
   std::string upperCase_;
   Pairs pairs_;
-  Pairs upperCasePairs_;
+  Pairs pairsOfAnyCase_;
   WordPositions exact_;
   WordPositions ignoringCase_;
 };

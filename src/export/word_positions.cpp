@@ -17,7 +17,7 @@ std::uint64_t WordPositions::HashOf(std::string_view word) {
 }
 
 void WordPositions::Fill(Slot& slot, std::string_view word, const Key& key, int position) {
-  slot = {key, static_cast<std::uint32_t>(words_.size()), position, true};
+  slot = {key.first, key.last, key.size, static_cast<std::uint32_t>(words_.size()), position, true};
   if (!key.IsWholeWord()) words_ += word;
   ++count_;
 }
@@ -25,7 +25,7 @@ void WordPositions::Fill(Slot& slot, std::string_view word, const Key& key, int 
 void WordPositions::Grow() {
   const std::vector<Slot> old = std::exchange(slots_, std::vector<Slot>(slots_.size() * 2));
   for (const Slot& slot : old) {
-    if (slot.isUsed) slots_[SlotOf(WordOf(slot), slot.key)] = slot;
+    if (slot.isUsed) slots_[SlotOf(WordOf(slot), slot.Word())] = slot;
   }
 }
 

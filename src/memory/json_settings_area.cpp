@@ -7,6 +7,7 @@
 #include "memory/settings_json.h"
 #include "memory/shared_file.h"
 #include "memory/user_folders.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork {
 namespace {
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 /// Runs a step on the settings file; whatever fails in it becomes an error that names the file.
 template <class Step>
 auto OnSettingsFile(const fs::path& path, Step&& step) {
-  const std::string name = path.string();
+  const std::string name = TextOf(path);
   try {
     return step();
   } catch (const SettingsTextError& error) {
@@ -43,7 +44,7 @@ std::optional<std::string> Stored(const SettingValues& values, std::string_view 
 
 fs::path DefaultSettingsPath() {
   if (const std::string named = EnvironmentVariable("BRIMWORK_SETTINGS"); !named.empty())
-    return named;
+    return PathOf(named);
   const fs::path folder = ConfigFolder();
   return folder.empty() ? folder : folder / "brimwork" / "settings.json";
 }

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "environment/text.h"
+#include "memory/disk_entry.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork {
 namespace {
@@ -39,13 +41,13 @@ std::vector<std::string> PartsOf(std::string_view listed) {
 /// The entry of folder with this name, else the first by the alphabet whose name differs only in
 /// case; empty when there is none.
 fs::path FindEntry(const fs::path& folder, const std::string& name) {
-  std::error_code ignored;
-  if (fs::exists(folder / name, ignored)) return folder / name;
+  if (const fs::path entry = DiskEntry(folder, name); !entry.empty()) return entry;
   fs::path found;
+  std::error_code ignored;
   const fs::path listed = folder.empty() ? fs::path(".") : folder;
   for (fs::directory_iterator entry(listed, ignored), end; entry != end; entry.increment(ignored)) {
     const fs::path candidate = entry->path().filename();
-    if (!EqualNames(candidate.string(), name)) continue;
+    if (!EqualNames(TextOf(candidate), name)) continue;
     if (found.empty() || candidate < found) found = candidate;
   }
   return found.empty() ? found : folder / found;
@@ -63,10 +65,18 @@ bool IsBelow(const fs::path& path, const fs::path& folder) {
   return !relative.empty() && *relative.begin() != "..";
 }
 
+/// A path that names its drive or computer; empty when there is no such file, nor such a path on
+/// this system.
+fs::path OnADrive(std::string_view listed) {
+  std::error_code ignored;
+  fs::path whole = PathOf(listed);
+  return whole.is_absolute() && fs::exists(whole, ignored) ? whole : fs::path();
+}
+
 }  // namespace
 
 ResolvedPath ResolveListedPath(const fs::path& folder, std::string_view listed) {
-  if (HasDriveLetter(listed) || listed.starts_with("\\\\")) return {{}, true};
+  if (HasDriveLetter(listed) || listed.starts_with("\\\\")) return {OnADrive(listed), true};
   const bool isAbsolute = !listed.empty() && IsSeparator(listed[0]);
   fs::path found = isAbsolute ? fs::path("/") : folder;
   fs::path spelled = found;
@@ -80,7 +90,7 @@ ResolvedPath ResolveListedPath(const fs::path& folder, std::string_view listed) 
     }
     if (exists) found = FindEntry(found, part);
     exists = exists && !found.empty();
-    spelled = exists ? found : spelled / part;
+    spelled = exists ? found : spelled / PathOf(part);
   }
   return {exists ? found : fs::path(), isAbsolute || !IsBelow(spelled, folder)};
 }

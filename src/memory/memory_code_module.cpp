@@ -50,6 +50,7 @@ void MemoryCodeModule::InsertLines(int line, std::string_view text) {
   const int at = std::min(line, text_.Count() + 1);
   const int before = text_.Count();
   text_.Insert(at, text);
+  ++revision_;
   if (latestBody_ >= at) latestBody_ += text_.Count() - before;
   index_.NoteEdit(at);
 }
@@ -59,6 +60,7 @@ void MemoryCodeModule::DeleteLines(int startLine, int count) {
   const int removed = std::min(count, text_.Count() - startLine + 1);
   if (removed < 1) return;
   text_.Delete(startLine, removed);
+  ++revision_;
   if (latestBody_ >= startLine + removed) {
     latestBody_ -= removed;
   } else if (latestBody_ >= startLine) {
@@ -75,6 +77,7 @@ void MemoryCodeModule::ReplaceLine(int line, std::string_view text) {
   const bool isBlanksOnly = DiffersInBlanksOnly(text_.Line(line), text);
   const int before = text_.Count();
   text_.Replace(line, text);
+  ++revision_;
   if (isBlanksOnly) return;
   if (latestBody_ > line) latestBody_ += text_.Count() - before;
   index_.NoteEdit(line);

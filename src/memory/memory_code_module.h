@@ -1,6 +1,7 @@
 // A code module as plain data: the lines, the procedures in them, and the environment's operations.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "environment/code_module.h"
@@ -31,12 +32,21 @@ class MemoryCodeModule : public CodeModule {
 
   const ModuleText& Text() const { return text_; }
 
+  /// From now on the lines behind the last procedure's closing line belong to that procedure.
+  void GiveLinesBelowToTheLastProcedure() {
+    index_ = ProcedureIndex(LinesBelow::kTheLastProcedures);
+  }
+
+  /// Goes up with each edit of the text.
+  std::uint64_t Revision() const { return revision_; }
+
  private:
   const ProcedureIndex::Procedure& Named(std::string_view name, ProcKind kind);
 
   std::string name_;
   ModuleText text_;
   ProcedureIndex index_;
+  std::uint64_t revision_ = 0;
   int latestBody_ =
       0;  // declaration of the procedure that ProcOfLine named last, 0 when it is gone
 };

@@ -26,6 +26,8 @@ class MemoryCodePane : public CodePane, public KeyTarget {
 
   std::string SelectedText() const;
 
+  const std::shared_ptr<MemoryCodeModule>& Code() const { return module_; }
+
   void SetContainingWindow(const std::shared_ptr<Window>& window) { window_ = window; }
 
  private:

@@ -2,20 +2,31 @@
 
 #include <utility>
 
+#include "environment/control.h"
 #include "environment/run_time_error.h"
+#include "memory/memory_command_bar.h"
 #include "memory/memory_command_bar_controls.h"
 #include "memory/memory_command_bars.h"
 
 namespace brimwork {
+namespace {
+
+const std::shared_ptr<MemoryCommandBarControls> kNoEntries;
+
+int FaceOf(int id) { return id == control_id::kCustom ? 0 : id; }
+
+}  // namespace
 
 MemoryCommandBarControl::MemoryCommandBarControl(MemoryCommandBarControls& neighbours,
                                                  const NewControl& control,
-                                                 std::shared_ptr<MemoryCommandBarControls> entries)
+                                                 std::shared_ptr<MemoryCommandBar> menu)
     : neighbours_(&neighbours),
       type_(control.type),
       id_(control.id),
       isTemporary_(control.isTemporary),
-      entries_(std::move(entries)) {}
+      menu_(std::move(menu)) {
+  if (!menu_) details_.faceId = FaceOf(id_);
+}
 
 MemoryCommandBarControl::~MemoryCommandBarControl() = default;
 
@@ -37,8 +48,8 @@ std::string MemoryCommandBarControl::Caption() {
 }
 
 void MemoryCommandBarControl::SetCaption(std::string_view caption) {
-  Living();
-  caption_ = caption;
+  Set(caption_, caption);
+  if (menu_ && menu_->IsOfAPopup()) menu_->SetPopupName(ShownCaption(caption));
 }
 
 std::string MemoryCommandBarControl::Tag() {
@@ -46,22 +57,22 @@ std::string MemoryCommandBarControl::Tag() {
   return tag_;
 }
 
-void MemoryCommandBarControl::SetTag(std::string_view tag) {
-  Living();
-  tag_ = tag;
-}
+void MemoryCommandBarControl::SetTag(std::string_view tag) { Set(tag_, tag); }
 
 bool MemoryCommandBarControl::BeginGroup() {
   Living();
   return beginsGroup_;
 }
 
-void MemoryCommandBarControl::SetBeginGroup(bool begins) {
-  Living();
-  beginsGroup_ = begins;
-}
+void MemoryCommandBarControl::SetBeginGroup(bool begins) { Set(beginsGroup_, begins); }
 
-void MemoryCommandBarControl::Execute() { Living().Bars().Click(*this); }
+void MemoryCommandBarControl::Execute() {
+  MemoryCommandBars& bars = Living().Bars();
+  if (!details_.enabled) {
+    throw RunTimeError(error_number::kUnspecified, "the control \"" + caption_ + "\" is disabled");
+  }
+  bars.Click(*this);
+}
 
 // The last one that holds the control may be its neighbours.
 void MemoryCommandBarControl::Delete() {
@@ -76,7 +87,7 @@ int MemoryCommandBarControl::Style() {
 
 void MemoryCommandBarControl::SetStyle(int style) {
   LivingButton();
-  style_ = style;
+  Set(style_, style);
 }
 
 void MemoryCommandBarControl::PasteFace() {
@@ -84,20 +95,50 @@ void MemoryCommandBarControl::PasteFace() {
   if (picture.empty()) {
     throw RunTimeError(error_number::kInvalidClipboardFormat, "the clipboard holds no picture");
   }
-  face_ = picture;
+  Set(face_, picture);
+  details_.faceId = 0;
 }
 
 std::shared_ptr<CommandBarControls> MemoryCommandBarControl::Controls() {
   Living();
-  if (!entries_) {
+  if (!menu_) {
     throw RunTimeError(error_number::kNotSupportedByObject, "a button has no entries");
   }
-  return entries_;
+  return menu_->Entries();
+}
+
+const ControlDetails& MemoryCommandBarControl::Details() const {
+  Living();
+  return details_;
+}
+
+void MemoryCommandBarControl::SetDetails(ControlDetails details) {
+  if (details.faceId != Details().faceId) face_.clear();
+  Set(details_, std::move(details));
+}
+
+void MemoryCommandBarControl::ResetFace() {
+  LivingButton().NoteChange();
+  face_.clear();
+  details_.faceId = FaceOf(id_);
+}
+
+const std::shared_ptr<MemoryCommandBarControls>& MemoryCommandBarControl::Entries() const {
+  return menu_ ? menu_->Entries() : kNoEntries;
 }
 
 void MemoryCommandBarControl::Vanish() {
   neighbours_ = nullptr;
-  if (entries_ && !entries_->BelongToABar()) entries_->Vanish();
+  if (menu_ && menu_->IsOfAPopup()) menu_->Vanish();
+}
+
+void MemoryCommandBarControl::TakeAfter(const MemoryCommandBarControl& other) {
+  command_ = other.command_;
+  action = other.action;
+  face_ = other.face_;
+  style_ = other.style_;
+  details_ = other.details_;
+  SetCaption(other.caption_);
 }
 
 MemoryCommandBarControls& MemoryCommandBarControl::Living() const {
@@ -109,8 +150,16 @@ MemoryCommandBarControls& MemoryCommandBarControl::Living() const {
 
 MemoryCommandBarControls& MemoryCommandBarControl::LivingButton() const {
   MemoryCommandBarControls& neighbours = Living();
-  if (entries_) throw RunTimeError(error_number::kNotSupportedByObject, "a popup is no button");
+  if (menu_) throw RunTimeError(error_number::kNotSupportedByObject, "a popup is no button");
   return neighbours;
+}
+
+template <class Value, class NewValue>
+void MemoryCommandBarControl::Set(Value& value, NewValue&& newValue) {
+  MemoryCommandBarControls& neighbours = Living();
+  if (value == newValue) return;
+  value = std::forward<NewValue>(newValue);
+  neighbours.NoteChange();
 }
 
 }  // namespace brimwork

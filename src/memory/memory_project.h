@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 #include "environment/vbe.h"
@@ -14,20 +14,34 @@ namespace brimwork {
 
 class MemoryProject;
 
+/// Whether text can name a component: letters, digits and underscores, a letter first.
+bool IsComponentName(std::string_view text);
+
 class MemoryComponent : public VBComponent {
  public:
-  /// project outlives the component; module may be null.
-  MemoryComponent(MemoryProject& project, std::string name, int type,
-                  std::shared_ptr<MemoryCodeModule> module)
-      : project_(project), name_(std::move(name)), type_(type), module_(std::move(module)) {}
+  /// module: null for a component without code.
+  MemoryComponent(std::string name, int type, std::shared_ptr<MemoryCodeModule> module);
 
   std::string Name() override { return name_; }
+  /// Raises error 32813 for a name that another component of its project has, error 5 for a text
+  /// that is no name.
   void SetName(std::string_view name) override;
   int Type() override { return type_; }
   std::shared_ptr<CodeModule> Module() override { return module_; }
 
+  // For the environment and for tests.
+
+  const std::string& LastName() const { return name_; }
+  int Kind() const { return type_; }  // component_type::k...
+  const std::shared_ptr<MemoryCodeModule>& Code() const { return module_; }
+
+  /// Null once it has been removed, or its project is no more.
+  MemoryProject* Project() const { return project_; }
+
  private:
-  MemoryProject& project_;
+  friend class MemoryProject;
+
+  MemoryProject* project_ = nullptr;
   std::string name_;
   int type_;
   std::shared_ptr<MemoryCodeModule> module_;
@@ -37,14 +51,21 @@ class MemoryProject : public VBProject {
  public:
   /// name is asked for only when a command wants the project's name.
   explicit MemoryProject(std::function<std::string()> name) : name_(std::move(name)) {}
+  ~MemoryProject() override;
+  MemoryProject(const MemoryProject&) = delete;
+  MemoryProject& operator=(const MemoryProject&) = delete;
+
   std::string Name() override { return name_(); }
   std::vector<std::shared_ptr<VBComponent>> VBComponents() override;
 
-  /// Only standard modules; another type raises error 5.
+  /// Standard modules and class modules; another type raises the unspecified error.
   std::shared_ptr<VBComponent> AddVBComponent(int type) override;
 
-  /// Adds a component with that text, as a project has it when it is opened.
+  /// Adds a standard module with that text, as a project has it when it is opened.
   std::shared_ptr<MemoryComponent> AddModule(std::string name, std::string_view text);
+
+  /// The component has no project from now on. Raises error 5 for one that is not among them.
+  void Remove(VBComponent& component);
 
   /// The component of that name, case set aside; null when there is none.
   std::shared_ptr<MemoryComponent> ComponentOfName(std::string_view name) const;
@@ -52,8 +73,23 @@ class MemoryProject : public VBProject {
   /// Whether the environment writes "Option Explicit" into each new module.
   bool requiresDeclarations = false;
 
+ protected:
+  /// A new component of the project, which it is then added to.
+  virtual std::shared_ptr<MemoryComponent> Make(std::string name, int type, std::string_view text);
+
+  void Add(std::shared_ptr<MemoryComponent> component);
+  const std::vector<std::shared_ptr<MemoryComponent>>& All() const { return components_; }
+
+  // Called behind each change of its kind; they do nothing here.
+
+  virtual void NoteAdded() {}
+  virtual void NoteRemoved(MemoryComponent&) {}
+  virtual void NoteRenamed(MemoryComponent&) {}
+
  private:
-  std::string UnusedName() const;
+  friend class MemoryComponent;
+
+  std::string UnusedName(int type) const;
 
   std::function<std::string()> name_;
   std::vector<std::shared_ptr<MemoryComponent>> components_;

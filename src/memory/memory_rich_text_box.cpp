@@ -61,7 +61,9 @@ void MemoryRichTextBox::ReadLine(int line, std::string& text) {
 std::string MemoryRichTextBox::RichTextBytes(TextRange range) {
   const TextCodec& codec = files_.Codec();
   const RichText& content = Content();
-  if (codec.ForDisplay(content.Text()) == content.Text()) return WriteRtf(content, range);
+  if (!codec.HasAliases() || codec.ForDisplay(content.Text()) == content.Text()) {
+    return WriteRtf(content, range);
+  }
   const RichText shown =
       content.Changed([&](std::string_view text) { return codec.ForDisplay(text); });
   const bool isWhole = range.start == 0 && range.length == content.Size();

@@ -6,6 +6,7 @@ namespace brimwork {
 
 void MemoryTextWindow::SetText(std::string_view text) {
   text_ = WithCrLf(text);
+  ++revision_;
   start_ = text_.size();
   length_ = 0;
 }
@@ -16,6 +17,12 @@ void MemoryTextWindow::Select(int start, int length) {
 }
 
 std::string MemoryTextWindow::SelectedText() const { return text_.substr(start_, length_); }
+
+int MemoryTextWindow::Start() const {
+  return CharacterCount(std::string_view(text_).substr(0, start_));
+}
+
+int MemoryTextWindow::Length() const { return CharacterCount(SelectedText()); }
 
 void MemoryTextWindow::Copy(Clipboard& clipboard) {
   if (length_ > 0) clipboard.SetText(SelectedText());
@@ -39,6 +46,7 @@ void MemoryTextWindow::Delete() {
 void MemoryTextWindow::Type(std::string_view text) {
   const std::string typed = WithCrLf(text);
   text_.replace(start_, length_, typed);
+  ++revision_;
   start_ += typed.size();
   length_ = 0;
 }

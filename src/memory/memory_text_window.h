@@ -2,6 +2,7 @@
 // what keystrokes do to them.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,14 @@ class MemoryTextWindow : public KeyTarget {
   void Select(int start, int length);
   std::string SelectedText() const;
 
+  // The selection, counted like that.
+
+  int Start() const;
+  int Length() const;
+
+  /// Goes up with each change of the text.
+  std::uint64_t Revision() const { return revision_; }
+
   void Copy(Clipboard& clipboard) override;
   void Paste(Clipboard& clipboard) override;
   void SelectAll() override;
@@ -31,6 +40,7 @@ class MemoryTextWindow : public KeyTarget {
   std::string text_;
   std::size_t start_ = 0;   // of the selection, in bytes
   std::size_t length_ = 0;  // of the selection, in bytes
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace brimwork

@@ -8,9 +8,11 @@ MemoryVbe::MemoryVbe(MemoryKeyboard& keyboard, const MemoryClipboard& clipboard)
     : windows(keyboard),
       commandBars(clipboard),
       mainWindow_(windows.Add(kMainWindowCaption, window_type::kMainWindow)) {
-  windows.OnActivate = [this](MemoryWindow& window) { NoteActivation(window); };
-  windows.OnRemove = [this](MemoryWindow& window) { ForgetPaneOf(window); };
-  AddCommandBar(std::make_shared<MemoryCommandBar>(kMenuBarName));
+  windows.OnActivate([this](MemoryWindow& window) { NoteActivation(window); });
+  windows.OnRemove([this](MemoryWindow& window) { ForgetPaneOf(window); });
+  const auto menuBar = std::make_shared<MemoryCommandBar>(kMenuBarName);
+  menuBar->MakeMenuBar();
+  AddCommandBar(menuBar);
 }
 
 std::shared_ptr<Window> MemoryVbe::ActiveWindow() {
@@ -58,24 +60,26 @@ void MemoryVbe::AddCommandBar(const std::shared_ptr<MemoryCommandBar>& bar) {
   commandBars.Add(bar);
 }
 
-MemoryVbe::Panes::iterator MemoryVbe::PaneOf(MemoryWindow& window) {
-  return std::ranges::find_if(panes_,
-                              [&](const auto& pane) { return pane.get() == window.Keys(); });
+std::shared_ptr<MemoryCodePane> MemoryVbe::PaneOf(MemoryWindow& window) const {
+  const auto pane =
+      std::ranges::find_if(panes_, [&](const auto& held) { return held.get() == window.Keys(); });
+  return pane == panes_.end() ? nullptr : *pane;
 }
 
 void MemoryVbe::NoteActivation(MemoryWindow& window) {
   const auto pane = PaneOf(window);
-  if (pane == panes_.end()) return;
-  std::rotate(pane, pane + 1, panes_.end());
-  activePane_ = panes_.back();
+  if (pane == nullptr) return;
+  std::erase(byActivity_, pane);
+  byActivity_.push_back(pane);
+  activePane_ = pane;
 }
 
 void MemoryVbe::ForgetPaneOf(MemoryWindow& window) {
   const auto pane = PaneOf(window);
-  if (pane == panes_.end()) return;
-  const bool wasActive = activePane_ == *pane;
-  panes_.erase(pane);
-  if (wasActive) activePane_ = panes_.empty() ? nullptr : panes_.back();
+  if (pane == nullptr) return;
+  std::erase(panes_, pane);
+  std::erase(byActivity_, pane);
+  if (activePane_ == pane) activePane_ = byActivity_.empty() ? nullptr : byActivity_.back();
 }
 
 }  // namespace brimwork

@@ -40,7 +40,14 @@ class MemoryVbe : public VBE {
   /// Opens a code window for the pane, which becomes the active one with the focus.
   void OpenPane(const std::shared_ptr<MemoryCodePane>& pane, std::string caption);
 
+  /// All open panes, in the order of their opening.
+  const std::vector<std::shared_ptr<MemoryCodePane>>& Panes() const { return panes_; }
+
+  std::shared_ptr<MemoryCodePane> ActivePane() const { return activePane_; }
   void SetActivePane(std::shared_ptr<MemoryCodePane> pane) { activePane_ = std::move(pane); }
+
+  /// Of the main window.
+  void SetCaption(std::string caption) { mainWindow_->SetCaption(std::move(caption)); }
   void SetProject(std::shared_ptr<VBProject> project) { project_ = std::move(project); }
   /// Takes in a bar of the environment's own.
   void AddCommandBar(const std::shared_ptr<MemoryCommandBar>& bar);
@@ -50,13 +57,12 @@ class MemoryVbe : public VBE {
   std::string fullName = "C:\\Program Files\\Microsoft Visual Studio\\VB98\\VB6.EXE";
 
  private:
-  using Panes = std::vector<std::shared_ptr<MemoryCodePane>>;
-
-  Panes::iterator PaneOf(MemoryWindow& window);
+  std::shared_ptr<MemoryCodePane> PaneOf(MemoryWindow& window) const;
   void NoteActivation(MemoryWindow& window);
   void ForgetPaneOf(MemoryWindow& window);
 
-  Panes panes_;  // the one that was active last stands last
+  std::vector<std::shared_ptr<MemoryCodePane>> panes_;
+  std::vector<std::shared_ptr<MemoryCodePane>> byActivity_;  // the latest active one stands last
   std::shared_ptr<MemoryCodePane> activePane_;
   std::shared_ptr<VBProject> project_;
   std::shared_ptr<MemoryWindow> mainWindow_;

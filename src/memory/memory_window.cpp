@@ -12,6 +12,7 @@ MemoryWindow::MemoryWindow(MemoryWindows& all, std::string caption, int type,
     : all_(all), caption_(std::move(caption)), type_(type), keys_(std::move(keys)) {}
 
 void MemoryWindow::SetVisible(bool visible) {
+  if (visible_ != visible) all_.NoteChange();
   visible_ = visible;
   if (!visible) all_.Deactivate(*this);
 }
@@ -32,8 +33,14 @@ void MemoryWindow::Close() {
   }
 }
 
+void MemoryWindow::SetCaption(std::string caption) {
+  if (caption_ != caption) all_.NoteChange();
+  caption_ = std::move(caption);
+}
+
 std::shared_ptr<MemoryWindow> MemoryWindows::Add(std::string caption, int type,
                                                  std::shared_ptr<KeyTarget> keys) {
+  NoteChange();
   windows_.push_back(
       std::make_shared<MemoryWindow>(*this, std::move(caption), type, std::move(keys)));
   return windows_.back();
@@ -51,13 +58,15 @@ void MemoryWindows::Activate(MemoryWindow& window) {
     throw RunTimeError(error_number::kInvalidProcedureCall,
                        "the window \"" + window.Caption() + "\" is closed and takes no focus");
   }
+  if (active_ != activated) NoteChange();
   active_ = activated;
   keyboard_.SetFocus(window.Keys());
-  if (OnActivate) OnActivate(window);
+  for (const auto& listener : activationListeners_) listener(window);
 }
 
 void MemoryWindows::Deactivate(const MemoryWindow& window) {
   if (active_.get() != &window) return;
+  NoteChange();
   active_ = nullptr;
   keyboard_.SetFocus(nullptr);
 }
@@ -65,9 +74,18 @@ void MemoryWindows::Deactivate(const MemoryWindow& window) {
 void MemoryWindows::Remove(MemoryWindow& window) {
   const auto removed = Shared(window);
   if (!removed) return;
-  if (OnRemove) OnRemove(window);
+  NoteChange();
+  for (const auto& listener : removalListeners_) listener(window);
   std::erase(windows_, removed);
   Deactivate(window);
+}
+
+void MemoryWindows::OnActivate(std::function<void(MemoryWindow&)> listener) {
+  activationListeners_.push_back(std::move(listener));
+}
+
+void MemoryWindows::OnRemove(std::function<void(MemoryWindow&)> listener) {
+  removalListeners_.push_back(std::move(listener));
 }
 
 std::shared_ptr<MemoryWindow> MemoryWindows::Shared(const MemoryWindow& window) const {

@@ -1,6 +1,7 @@
 // The environment's windows as plain data: which there are, which are shown, which has the focus.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -30,7 +31,7 @@ class MemoryWindow : public Window {
   void SetFocus() override;
   void Close() override;
 
-  void SetCaption(std::string caption) { caption_ = std::move(caption); }
+  void SetCaption(std::string caption);
 
   /// What keystrokes act on while the window has the focus; null for nothing.
   KeyTarget* Keys() { return keys_.get(); }
@@ -66,16 +67,25 @@ class MemoryWindows {
 
   void Remove(MemoryWindow& window);
 
-  /// Called when a window has got the focus, and before one goes away; may be empty.
-  std::function<void(MemoryWindow&)> OnActivate;
-  std::function<void(MemoryWindow&)> OnRemove;
+  /// Called when a window has got the focus, and before one goes away, for as long as this lives.
+  void OnActivate(std::function<void(MemoryWindow&)> listener);
+  void OnRemove(std::function<void(MemoryWindow&)> listener);
+
+  /// Goes up with each change: which windows there are, captions, what is shown, the focus.
+  std::uint64_t Revision() const { return revision_; }
+  void NoteChange() { ++revision_; }
 
  private:
+  using Listeners = std::vector<std::function<void(MemoryWindow&)>>;
+
   std::shared_ptr<MemoryWindow> Shared(const MemoryWindow& window) const;
 
   MemoryKeyboard& keyboard_;
   std::vector<std::shared_ptr<MemoryWindow>> windows_;
   std::shared_ptr<MemoryWindow> active_;
+  Listeners activationListeners_;
+  Listeners removalListeners_;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace brimwork

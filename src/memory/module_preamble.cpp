@@ -1,5 +1,6 @@
 #include "memory/module_preamble.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -53,9 +54,22 @@ Part PartOf(std::string_view line) {
   return Part::kCode;
 }
 
+struct LaidOutObject {
+  std::string_view objectClass;
+  std::string_view name;  // "" where none is given
+};
+
+/// What `Begin VB.Form frmDesk` says.
+LaidOutObject ObjectOn(std::string_view beginLine) {
+  const std::string_view object = BehindWord(TrimBlanksAndTabs(beginLine), "BEGIN").value_or("");
+  const auto classEnd = std::min(object.find_first_of(" \t"), object.size());
+  return {object.substr(0, classEnd), TrimBlanksAndTabs(object.substr(classEnd))};
+}
+
 class PreambleReader {
  public:
-  PreambleReader(std::string_view text, const std::string& path) : rest_(text), path_(path) {}
+  PreambleReader(std::string_view text, const std::string& path)
+      : start_(text.data()), rest_(text), path_(path) {}
 
   ModulePreamble Read() {
     const std::size_t whole = rest_.size();
@@ -79,13 +93,34 @@ class PreambleReader {
     if (part == Part::kCode || (part == Part::kVersion && !isFirst)) return false;
     if (part == Part::kAttribute) {
       hasAttributes_ = true;
-      if (preamble_.moduleName.empty()) preamble_.moduleName = ModuleNameIn(line);
+      if (preamble_.moduleName.empty()) NoteName(line);
     } else if (part != Part::kBlank && hasAttributes_) {
       return false;
     }
-    if (part == Part::kBegin) SkipBlock();
+    if (part == Part::kBegin) {
+      NoteObject(line);
+      SkipBlock();
+    }
     lastPart_ = part;
     return true;
+  }
+
+  void NoteName(std::string_view line) {
+    preamble_.moduleName = ModuleNameIn(line);
+    if (preamble_.moduleName.empty()) return;
+    preamble_.nameInAttribute =
+        SpanOf(line.substr(line.find('"') + 1, preamble_.moduleName.size()));
+  }
+
+  void NoteObject(std::string_view line) {
+    if (!preamble_.objectClass.empty()) return;
+    const LaidOutObject object = ObjectOn(line);
+    preamble_.objectClass = object.objectClass;
+    preamble_.nameInLayout = SpanOf(object.name);
+  }
+
+  TextSpan SpanOf(std::string_view part) const {
+    return {static_cast<std::size_t>(part.data() - start_), part.size()};
   }
 
   void SkipBlock() {
@@ -111,6 +146,7 @@ class PreambleReader {
     return TakeLine(rest_).text;
   }
 
+  const char* start_;
   std::string_view rest_;
   const std::string& path_;
   ModulePreamble preamble_;
@@ -119,10 +155,30 @@ class PreambleReader {
   bool hasAttributes_ = false;
 };
 
+/// The preamble with an attribute that names the module behind it.
+std::string Named(std::string preamble, std::string_view name, std::string_view lineEnd) {
+  const bool isOpen = !preamble.empty() && preamble != kByteOrderMark && !preamble.ends_with('\n');
+  if (isOpen) preamble += lineEnd;
+  return preamble.append("Attribute VB_Name = \"").append(name).append("\"").append(lineEnd);
+}
+
 }  // namespace
 
 ModulePreamble ReadPreamble(std::string_view text, const std::string& path) {
   return PreambleReader(text, path).Read();
+}
+
+std::string WithModuleName(std::string_view text, const ModulePreamble& preamble,
+                           std::string_view name) {
+  std::string renamed(text.substr(0, preamble.size));
+  if (preamble.moduleName.empty()) return Named(std::move(renamed), name, FirstLineEnd(text));
+  // The layout stands above the attribute.
+  const TextSpan& attribute = preamble.nameInAttribute;
+  renamed.replace(attribute.offset, attribute.size, name);
+  const TextSpan& layout = preamble.nameInLayout;
+  const bool isNamedSo = text.substr(layout.offset, layout.size) == preamble.moduleName;
+  if (isNamedSo) renamed.replace(layout.offset, layout.size, name);
+  return renamed;
 }
 
 }  // namespace brimwork

@@ -129,14 +129,32 @@ const ProcedureIndex::Procedure* ProcedureIndex::At(const ModuleText& text, int 
   while (!IsKnownBelow(line)) ScanNext(text);
   const auto entry = std::partition_point(entries_.begin(), entries_.end(),
                                           [line](const Entry& e) { return e.end < line; });
-  return entry != entries_.end() && entry->start <= line ? &*entry : nullptr;
+  if (entry != entries_.end()) {
+    return entry->start <= line ? Whole(text, static_cast<std::size_t>(entry - entries_.begin()))
+                                : nullptr;
+  }
+  return IsBelowTheLast(text, line) ? Whole(text, entries_.size() - 1) : nullptr;
+}
+
+bool ProcedureIndex::IsBelowTheLast(const ModuleText& text, int line) const {
+  return below_ == LinesBelow::kTheLastProcedures && !entries_.empty() && line <= text.Count();
+}
+
+/// The procedure with the lines below it where they are its own.
+const ProcedureIndex::Procedure* ProcedureIndex::Whole(const ModuleText& text, std::size_t place) {
+  if (below_ == LinesBelow::kNobodys) return &entries_[place];
+  const bool isLast = place + 1 == entries_.size() && !ScanNext(text);
+  if (!isLast) return &entries_[place];
+  last_ = entries_[place];
+  last_.end = text.Count();
+  return &last_;
 }
 
 const ProcedureIndex::Procedure* ProcedureIndex::FirstNamed(const ModuleText& text,
                                                             std::string_view name, ProcKind kind) {
   for (std::size_t i = 0; i < entries_.size() || ScanNext(text); ++i) {
     if (entries_[i].kind == kind && EqualNames(NameOf(text, entries_[i]), name))
-      return &entries_[i];
+      return Whole(text, i);
   }
   return nullptr;
 }

@@ -14,8 +14,13 @@
 
 namespace brimwork {
 
+/// Whose the lines behind the last procedure's closing line are.
+enum class LinesBelow { kNobodys, kTheLastProcedures };
+
 class ProcedureIndex {
  public:
+  explicit ProcedureIndex(LinesBelow below = LinesBelow::kNobodys) : below_(below) {}
+
   struct Procedure {
     int start = 0;  // first line, attached comment and blank lines included
     int body = 0;   // line of the declaration
@@ -50,11 +55,15 @@ class ProcedureIndex {
   };
 
   bool ScanNext(const ModuleText& text);
+  bool IsBelowTheLast(const ModuleText& text, int line) const;
+  const Procedure* Whole(const ModuleText& text, std::size_t place);
   bool IsKnownBelow(int line) const {
     return complete_ || (!entries_.empty() && entries_.back().end >= line);
   }
 
+  LinesBelow below_;
   std::vector<Entry> entries_;
+  Procedure last_;         // with the lines below
   bool complete_ = false;  // no procedure behind the last entry
   int declarationLines_ = 0;
 };

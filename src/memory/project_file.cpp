@@ -8,6 +8,7 @@
 #include "memory/listed_path.h"
 #include "memory/project_lines.h"
 #include "memory/source_text.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork {
 namespace {
@@ -24,12 +25,14 @@ bool IsAmong(std::string_view name, const Names& names) {
                      [name](std::string_view each) { return EqualNames(each, name); });
 }
 
-fs::path FolderOf(const std::string& path) { return fs::path(path).parent_path(); }
+std::string ExtensionOf(std::string_view path) { return TextOf(PathOf(path).extension()); }
+
+fs::path FolderOf(const std::string& path) { return PathOf(path).parent_path(); }
 
 ListedFile Listed(const ProjectLine& line, const fs::path& folder) {
   const std::string_view listedAs = ComponentIn(line.value).file;
   const ResolvedPath resolved = ResolveListedPath(folder, listedAs);
-  return {std::string(listedAs), resolved.path.string(), resolved.outside, line.number};
+  return {std::string(listedAs), TextOf(resolved.path), resolved.outside, line.number};
 }
 
 std::string ReadText(const std::string& path, const std::string& encoding) {
@@ -41,7 +44,7 @@ std::string NameIn(std::string_view text, const std::string& path) {
   for (const ProjectLine& line : ProjectLinesOf(text)) {
     if (EqualNames(line.key, "Name")) name = Unquoted(line.value);
   }
-  return name.empty() ? fs::path(path).stem().string() : name;
+  return name.empty() ? TextOf(PathOf(path).stem()) : name;
 }
 
 /// Project files of a folder, sorted; none when it cannot be listed.
@@ -50,21 +53,21 @@ std::vector<std::string> ProjectsIn(const fs::path& folder) {
   std::error_code ignored;
   const fs::path listed = folder.empty() ? fs::path(".") : folder;
   for (fs::directory_iterator entry(listed, ignored), end; entry != end; entry.increment(ignored)) {
-    if (EqualNames(entry->path().extension().string(), ".vbp"))
-      projects.push_back(entry->path().string());
+    const std::string path = TextOf(entry->path());
+    if (EqualNames(ExtensionOf(path), ".vbp")) projects.push_back(path);
   }
   std::sort(projects.begin(), projects.end());
   return projects;
 }
 
 bool NamesFile(std::string_view text, const fs::path& folder, const fs::path& source) {
-  const std::string fileName = source.filename().string();
+  const std::string fileName = TextOf(source.filename());
   const auto names = [&](const ProjectLine& line) {
     if (!NamesComponent(line)) return false;
     // Looking for a file on the disk costs more than comparing names.
     if (!EqualNames(ListedFileName(ComponentIn(line.value).file), fileName)) return false;
     std::error_code ignored;
-    return fs::equivalent(Listed(line, folder).path, source, ignored);
+    return fs::equivalent(PathOf(Listed(line, folder).path), source, ignored);
   };
   return std::ranges::any_of(ProjectLinesOf(text), names);
 }
@@ -77,11 +80,11 @@ class SourceFileSearch {
   void Search(const fs::path& folder) {
     std::error_code error;
     fs::directory_iterator entry(folder, error);
-    if (error) throw SourceError(folder.string(), "cannot list the folder: " + error.message());
+    if (error) throw SourceError(TextOf(folder), "cannot list the folder: " + error.message());
     for (const fs::directory_iterator end; entry != end;) {
       Take(*entry);
       entry.increment(error);
-      if (error) throw SourceError(folder.string(), "cannot list the folder: " + error.message());
+      if (error) throw SourceError(TextOf(folder), "cannot list the folder: " + error.message());
     }
   }
 
@@ -93,7 +96,7 @@ class SourceFileSearch {
  private:
   void Take(const fs::directory_entry& entry) {
     std::error_code ignored;
-    const std::string name = entry.path().filename().string();
+    const std::string name = TextOf(entry.path().filename());
     if (entry.is_directory(ignored)) {
       if (name.starts_with('.') || entry.is_symlink(ignored)) return;
       try {
@@ -102,7 +105,7 @@ class SourceFileSearch {
         report_(error);
       }
     } else if (IsSourceFileName(name)) {
-      files_.push_back(entry.path().string());
+      files_.push_back(TextOf(entry.path()));
     }
   }
 
@@ -132,13 +135,13 @@ std::vector<ListedFile> ReadProjectGroup(const std::string& path, const std::str
 }
 
 bool IsSourceFileName(std::string_view path) {
-  return IsAmong(fs::path(path).extension().string(), kSourceExtensions);
+  return IsAmong(ExtensionOf(path), kSourceExtensions);
 }
 
 std::vector<std::string> FindSourceFiles(const std::string& folder,
                                          const std::function<void(const SourceError&)>& report) {
   SourceFileSearch search(report);
-  search.Search(folder);
+  search.Search(PathOf(folder));
   return search.Sorted();
 }
 
@@ -147,7 +150,7 @@ std::string ProjectNameFor(const std::string& sourcePath, const std::string& enc
   for (const std::string& project : ProjectsIn(folder)) {
     try {
       const std::string text = ReadText(project, encoding);
-      if (NamesFile(text, folder, sourcePath)) return NameIn(text, project);
+      if (NamesFile(text, folder, PathOf(sourcePath))) return NameIn(text, project);
     } catch (const SourceError&) {
       // A damaged project names no file; the source file itself can be worked on all the same.
     }

@@ -40,10 +40,24 @@ std::vector<ListedComponent> ListedComponents(std::string_view bytes);
 /// or refers to.
 bool IsProjectText(std::string_view bytes);
 
-/// The project's bytes with a standard module's line behind the last one of a standard module, else
-/// of a component, else behind what the project is and refers to. It ends as the line above it; a
-/// file that does not end its last line still does not. IsProjectText is true of bytes.
+/// The project's bytes with a component's line behind the last one of its key ("Class"), else of a
+/// component, else behind what the project is and refers to. It ends as the line above it; a file
+/// that does not end its last line still does not. IsProjectText is true of bytes.
+std::string WithComponentLine(std::string_view bytes, std::string_view key, std::string_view name,
+                              std::string_view file);
+
+/// The same for a standard module.
 std::string WithModuleLine(std::string_view bytes, std::string_view name, std::string_view file);
+
+/// The project's bytes with another value on the last line of that key, in quotes where the old one
+/// is; without such a line one is put behind the last component. IsProjectText is true of bytes.
+std::string WithProjectValue(std::string_view bytes, std::string_view key, std::string_view value);
+
+/// The bytes without one of their lines.
+std::string WithoutLine(std::string_view bytes, const ProjectLine& line);
+
+/// The bytes with another text in the place of a line's value, quotes included.
+std::string WithValueOf(std::string_view bytes, const ProjectLine& line, std::string_view value);
 
 /// A value without the quotes around it.
 std::string_view Unquoted(std::string_view value);

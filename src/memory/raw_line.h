@@ -32,6 +32,14 @@ inline RawLine TakeLine(std::string_view& rest) {
   return line;
 }
 
+/// How the first line ends; CR LF where none does.
+inline std::string_view FirstLineEnd(std::string_view text) {
+  const auto lineFeed = text.find('\n');
+  const bool isBare =
+      lineFeed != std::string_view::npos && !text.substr(0, lineFeed).ends_with('\r');
+  return isBare ? "\n" : "\r\n";
+}
+
 /// Number of lines that TakeLine finds.
 inline std::size_t CountLines(std::string_view text) {
   const std::size_t lineFeeds = CountOf(text, '\n');

@@ -1,5 +1,6 @@
 #include "memory/rtf_spelling.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -8,16 +9,6 @@
 
 namespace brimwork {
 namespace {
-
-constexpr std::array<bool, 256> PlainBytes() {
-  std::array<bool, 256> plain{};
-  for (std::size_t byte = ' '; byte <= '~'; ++byte) {
-    plain[byte] = !IsOneOf(static_cast<char>(byte), "\\{}");
-  }
-  return plain;
-}
-
-constexpr std::array<bool, 256> kIsPlain = PlainBytes();
 
 constexpr std::size_t kPieceSize = 4096;
 
@@ -34,9 +25,17 @@ void RtfSpelling::AppendNumber(int number) {
 }
 
 void RtfSpelling::AppendText(std::string_view text) {
-  while (!text.empty()) {
-    text.remove_prefix(kIsPlain[static_cast<unsigned char>(text[0])] ? AppendPlain(text)
-                                                                     : AppendSpecial(text));
+  SpelledOtherwise marks(text);
+  AppendText(text, {0, text.size()}, marks);
+}
+
+void RtfSpelling::AppendText(std::string_view text, ByteRange part, SpelledOtherwise& marks) {
+  for (std::size_t at = part.start; at < part.end;) {
+    const std::size_t plainEnd = std::min(marks.Next(at), part.end);
+    if (at < plainEnd) AppendPlain(text.substr(at), plainEnd - at);
+    at = plainEnd;
+    if (at == part.end) return;
+    at += AppendSpecial(text.substr(at));
     if (piece_.Size() >= kPieceSize) HandOver();
   }
 }
@@ -59,11 +58,16 @@ void RtfSpelling::AppendSyntax(std::string_view syntax) {
   isBehindWord_ = false;
 }
 
-/// Appends plain characters that text starts with; returns their number.
-std::size_t RtfSpelling::AppendPlain(std::string_view text) {
+/// Appends so many characters, all plain, that text starts with.
+inline void RtfSpelling::AppendPlain(std::string_view text, std::size_t size) {
   if (isBehindWord_) piece_.Append(' ');
   isBehindWord_ = false;
-  return piece_.AppendWhile(text.substr(0, kPieceSize), kIsPlain);
+  const std::string_view plain = text.substr(0, size);
+  if (text.size() - size >= PaddedText::kPadding) [[likely]] {
+    piece_.AppendPadded(plain);
+  } else {
+    piece_.Append(plain);
+  }
 }
 
 /// Appends the character that text starts with; returns its size there.

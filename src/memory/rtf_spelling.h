@@ -4,9 +4,20 @@
 #include <string>
 #include <string_view>
 
+#include "environment/byte_marks.h"
 #include "environment/padded_text.h"
+#include "memory/format_runs.h"
 
 namespace brimwork {
+
+/// The bytes of text that are not spelled as they are.
+struct IsSpelledOtherwise {
+  bool operator()(unsigned char c) const {
+    const bool isPrintable = static_cast<unsigned char>(c - ' ') <= '~' - ' ';
+    return !isPrintable | (c == '\\') | (c == '{') | (c == '}');
+  }
+};
+using SpelledOtherwise = ByteMarks<IsSpelledOtherwise>;
 
 /// Appends what belongs to the body of a document. Control words and text that go to the same
 /// document must all pass through here, so that text never runs into a control word. What is
@@ -34,6 +45,8 @@ class RtfSpelling {
 
   /// text: UTF-8, its line ends CR LF, each of which becomes the end of a paragraph.
   void AppendText(std::string_view text);
+  /// The same for a part of it; marks: those of the text.
+  void AppendText(std::string_view text, ByteRange part, SpelledOtherwise& marks);
 
   void EndParagraph();
 
@@ -44,7 +57,7 @@ class RtfSpelling {
   void AppendSyntax(std::string_view syntax);
 
  private:
-  std::size_t AppendPlain(std::string_view text);
+  void AppendPlain(std::string_view text, std::size_t size);
   std::size_t AppendSpecial(std::string_view text);
   std::size_t AppendAsciiSpecial(char c);
   void AppendHex(char c);

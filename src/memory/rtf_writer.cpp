@@ -50,7 +50,7 @@ class RtfWriter {
   void AppendColorTable();
   void AppendBody();
   void AppendFormat(const PackedFormat& format, const PackedFormat* before);
-  std::string_view TextOf(std::span<const FormatRun> runs, std::size_t index) const;
+  ByteRange BytesOf(std::span<const FormatRun> runs, std::size_t index) const;
 
   const RichText& content_;
   const ByteRange bytes_;
@@ -121,9 +121,10 @@ void RtfWriter::AppendColorTable() {
 
 void RtfWriter::AppendBody() {
   const auto runs = Runs();
+  SpelledOtherwise marks(content_.Text());
   for (std::size_t i = 0; i < runs.size(); ++i) {
     AppendFormat(runs[i].format, i == 0 ? nullptr : &runs[i - 1].format);
-    spelling_.AppendText(TextOf(runs, i));
+    spelling_.AppendText(content_.Text(), BytesOf(runs, i), marks);
   }
   spelling_.EndParagraph();
 }
@@ -140,10 +141,9 @@ void RtfWriter::AppendFormat(const PackedFormat& format, const PackedFormat* bef
   }
 }
 
-std::string_view RtfWriter::TextOf(std::span<const FormatRun> runs, std::size_t index) const {
+ByteRange RtfWriter::BytesOf(std::span<const FormatRun> runs, std::size_t index) const {
   const std::size_t start = std::max<std::size_t>(runs[index].start, bytes_.start);
-  const std::size_t end = index + 1 < runs.size() ? runs[index + 1].start : bytes_.end;
-  return std::string_view(content_.Text()).substr(start, end - start);
+  return {start, index + 1 < runs.size() ? runs[index + 1].start : bytes_.end};
 }
 
 }  // namespace

@@ -1,11 +1,10 @@
 #include "memory/source_file.h"
 
-#include <filesystem>
-
 #include "environment/utf8.h"
 #include "memory/source_composer.h"
 #include "memory/source_error.h"
 #include "memory/source_text.h"
+#include "memory/utf8_path.h"
 
 namespace brimwork {
 
@@ -21,8 +20,21 @@ SourceFile SourceFile::Parse(std::string bytes, std::string path, const std::str
   file.module_ = std::move(parsed.text);
   file.moduleName_ = file.layout_.preamble.moduleName;
   if (file.moduleName_.empty())
-    file.moduleName_ = std::filesystem::path(file.path_).stem().string();
+    file.moduleName_ = TextOf(PathOf(file.path_).stem());
   return file;
+}
+
+void SourceFile::SetModuleName(std::string_view name) {
+  const std::size_t oldSize = layout_.preamble.size;
+  std::string text = WithModuleName(*text_, layout_.preamble, name);
+  layout_.preamble = ReadPreamble(text, path_);
+  text.append(*text_, oldSize);
+  for (HiddenAttribute& hidden : layout_.hidden) {
+    hidden.offset = hidden.offset - oldSize + layout_.preamble.size;
+  }
+  text_ = std::make_shared<const std::string>(std::move(text));
+  readAscii_ = FindNonAscii(*text_, 0) == text_->size();
+  moduleName_ = name;
 }
 
 void SourceFile::RequireEncodable(const ModuleText& text) const {

@@ -23,6 +23,12 @@ class SourceFile {
   const std::string& Path() const { return path_; }
   const std::string& ModuleName() const { return moduleName_; }
 
+  /// What the file lays out ("VB.Form"), "" for a file of code alone.
+  const std::string& ObjectClass() const { return layout_.preamble.objectClass; }
+
+  /// From now on the file says that the module has this name, and all else as before.
+  void SetModuleName(std::string_view name);
+
   /// The encoding that was used.
   const std::string& Encoding() const { return codec_->Encoding(); }
 

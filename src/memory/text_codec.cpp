@@ -77,6 +77,7 @@ class TextCodec::Way {
   virtual std::string_view Encode(std::string_view text, std::string& buffer,
                                   const std::string& encoding) = 0;
   virtual std::string ForDisplay(std::string_view text) const { return std::string(text); }
+  virtual bool HasAliases() const { return false; }
 };
 
 class TextCodec::Utf8Way : public Way {
@@ -138,7 +139,7 @@ class TextCodec::TableWay : public Way {
   }
 
   std::string ForDisplay(std::string_view text) const override {
-    if (!table_.HasAliases()) return std::string(text);
+    if (!HasAliases()) return std::string(text);
     std::string display;
     for (std::size_t at = 0; at < text.size();) {
       const std::size_t size = Utf8Size(text.substr(at));
@@ -150,6 +151,8 @@ class TextCodec::TableWay : public Way {
     }
     return display;
   }
+
+  bool HasAliases() const override { return table_.HasAliases(); }
 
  private:
   /// Returns the offset of the first undecodable byte, the size when there is none.
@@ -243,5 +246,7 @@ std::string_view TextCodec::Encode(std::string_view text, std::string& buffer) {
 }
 
 std::string TextCodec::ForDisplay(std::string_view text) const { return way_->ForDisplay(text); }
+
+bool TextCodec::HasAliases() const { return way_->HasAliases(); }
 
 }  // namespace brimwork

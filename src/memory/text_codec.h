@@ -53,6 +53,8 @@ class TextCodec {
   /// Text for the user's eyes: byte forms that came in as private code points become the
   /// characters that they mean.
   std::string ForDisplay(std::string_view text) const;
+  /// Whether such byte forms came in at all; else every text is its own display.
+  bool HasAliases() const;
 
  private:
   class Way;

@@ -5,103 +5,121 @@
 #include <string_view>
 #include <utility>
 
+#include "memory/usual_entries.h"
+
 namespace brimwork {
 namespace {
 
-struct BuiltIn {
-  int id;
-  std::string_view caption;
-};
+using Entries = std::span<const usual::Entry>;
 
-constexpr int kSharedId = 746;  // borne by many of the environment's commands
-
-// clang-format off
-constexpr BuiltIn kFile[] = {
-    {kSharedId, "&New Project"}, {23, "&Open Project..."}, {kSharedId, "A&dd Project..."},
-    {kSharedId, "&Remove Project"}, {3, "Sa&ve Project"}, {kSharedId, "Sav&e Project As..."},
-    {kSharedId, "&Save Module1"}, {kSharedId, "Save Module1 &As..."},
-    {kSharedId, "Save Selection..."}, {kSharedId, "Save C&hange Script"}, {4, "&Print..."},
-    {kSharedId, "Print Set&up..."}, {kSharedId, "Ma&ke Project1.exe..."},
-    {kSharedId, "Make Project &Group..."}, {kSharedId, "&1 C:\\Source\\Parts.vbp"},
-    {kSharedId, "&2 C:\\Source\\Bills.vbp"}, {kSharedId, "E&xit"}};
-
-constexpr BuiltIn kAddIns[] = {
-    {kSharedId, "&Visual Data Manager..."}, {kSharedId, "&Add-In Manager..."}};
-
-constexpr BuiltIn kStandard[] = {
-    {kSharedId, "Add Project"}, {23, "Open Project"}, {3, "Save Project"}, {21, "Cut"},
-    {19, "Copy"}, {22, "Paste"}, {141, "Find"}, {128, "Undo"}, {129, "Redo"}, {186, "Start"},
-    {189, "Break"}, {228, "End"}};
-
-constexpr BuiltIn kEdit[] = {
-    {2529, "List Properties/Methods"}, {2530, "List Constants"}, {2531, "Quick Info"},
-    {2532, "Parameter Info"}, {2533, "Complete Word"}, {14, "Indent"}, {15, "Outdent"},
-    {51, "Toggle Breakpoint"}, {control_id::kCommentBlock, "Comment Block"},
-    {control_id::kUncommentBlock, "Uncomment Block"}, {2525, "Toggle Bookmark"},
-    {2526, "Next Bookmark"}, {2527, "Previous Bookmark"}, {2528, "Clear All Bookmarks"}};
-
-constexpr BuiltIn kDebug[] = {
-    {186, "Start"}, {189, "Break"}, {228, "End"}, {51, "Toggle Breakpoint"}};
-
-constexpr BuiltIn kAboveToggle[] = {
-    {21, "Cu&t"}, {19, "&Copy"}, {22, "&Paste"}, {2529, "List Properties/Met&hods"},
-    {2530, "List C&onstants"}, {2531, "&Quick Info"}, {2532, "Para&meter Info"},
-    {2533, "Complete &Word"}};
-
-constexpr BuiltIn kToggle[] = {{51, "&Breakpoint"}, {2525, "B&ookmark"}};
-
-constexpr BuiltIn kBelowToggle[] = {
-    {473, "O&bject Browser"}, {kSharedId, "&Add Watch..."}, {kSharedId, "&Definition"},
-    {kSharedId, "&Last Position"}, {kSharedId, "H&ide"}};
-
-constexpr BuiltIn kImmediateWindow[] = {
-    {21, "Cu&t"}, {19, "&Copy"}, {22, "&Paste"}, {kSharedId, "&Definition"}, {kSharedId, "H&ide"}};
-// clang-format on
-
-void Fill(MemoryCommandBarControls& controls, std::span<const BuiltIn> commands) {
-  for (const BuiltIn& command : commands) controls.AddBuiltIn(command.id, command.caption);
+void Add(MemoryCommandBarControls& controls, const usual::Entry& entry) {
+  const auto control = controls.AddBuiltIn(command::IdOf(entry.command), entry.caption);
+  control->SetCommand(entry.command);
+  control->SetBeginGroup(entry.beginsGroup);
+  ControlDetails details = control->Details();
+  details.shortcutText = entry.shortcut;
+  if (control->Number() == command::kSharedId) details.faceId = 0;  // that would be one for all
+  control->SetDetails(std::move(details));
 }
 
-std::shared_ptr<MemoryCommandBar> AddToolbar(MemoryVbe& vbe, std::string name,
-                                             std::span<const BuiltIn> commands) {
-  auto bar = std::make_shared<MemoryCommandBar>(std::move(name));
-  vbe.AddCommandBar(bar);
-  Fill(*bar->Entries(), commands);
-  return bar;
+void Fill(MemoryCommandBarControls& controls, Entries entries) {
+  for (const usual::Entry& entry : entries) Add(controls, entry);
 }
 
-std::shared_ptr<MemoryCommandBar> AddPopupMenu(MemoryVbe& vbe, std::string name,
-                                               std::span<const BuiltIn> commands) {
-  auto bar = AddToolbar(vbe, std::move(name), commands);
-  bar->MakeMenu();
-  return bar;
+std::shared_ptr<MemoryCommandBar> AddPopup(const MemoryCommandBar& menu, std::string_view caption,
+                                           Entries entries, bool beginsGroup) {
+  const auto popup = menu.Entries()->AddBuiltInPopup(caption);
+  popup->SetBeginGroup(beginsGroup);
+  Fill(*popup->Entries(), entries);
+  return popup->Menu();
 }
 
-std::shared_ptr<MemoryCommandBar> AddDropDownMenu(MemoryVbe& vbe, std::string name,
-                                                  std::string_view caption,
-                                                  std::span<const BuiltIn> commands) {
-  auto bar = AddPopupMenu(vbe, std::move(name), commands);
-  if (const auto menuBar = vbe.commandBars.OfName(MemoryVbe::kMenuBarName)) {
-    menuBar->Entries()->AddMenu(caption, *bar);
+class UsualBarBuilder {
+ public:
+  explicit UsualBarBuilder(MemoryVbe& vbe) : vbe_(vbe) {}
+
+  UsualCommandBars Build() {
+    AddMenus();
+    AddToolbars();
+    AddPopupMenus();
+    // No program runs while the environment is plain data.
+    vbe_.commandBars.SetEnabled(command::kBreak, false);
+    vbe_.commandBars.SetEnabled(command::kEnd, false);
+    return std::move(usual_);
   }
-  return bar;
-}
+
+ private:
+  void AddMenus() {
+    usual_.menuBar = vbe_.commandBars.OfName(MemoryVbe::kMenuBarName);
+    usual_.file = Menu("File", "&File", usual::kFile);
+    usual_.editMenu = OwnMenu("&Edit", usual::kEditMenu);
+    AddPopup(*usual_.editMenu, "&Bookmarks", usual::kBookmarks, true);
+    usual_.view = Menu("View", "&View", usual::kView);
+    usual_.toolbars = AddPopup(*usual_.view, "&Toolbars", usual::kToolbars, true);
+    usual_.project = Menu("Project", "&Project", usual::kProject);
+    usual_.format = Menu("Format", "F&ormat", usual::kFormat);
+    usual_.debugMenu = OwnMenu("&Debug", usual::kDebugMenu);
+    usual_.run = Menu("Run", "&Run", usual::kRun);
+    usual_.addIns = Menu("Add-Ins", "&Add-Ins", usual::kAddIns);
+    usual_.window = Menu("Window", "&Window", usual::kWindow, control_id::kWindowMenu);
+    usual_.help = Menu("Help", "&Help", usual::kHelp);
+  }
+
+  void AddToolbars() {
+    usual_.standard = Bar("Standard", usual::kStandard);
+    usual_.edit = Bar("Edit", usual::kEdit);
+    usual_.debug = Bar("Debug", usual::kDebug);
+    usual_.debug->SetVisible(false);
+  }
+
+  void AddPopupMenus() {
+    usual_.codeWindow = PopupMenu("Code Window", {});
+    FillCodeWindowMenu(*usual_.codeWindow);
+    usual_.codeWindowBreak = PopupMenu("Code Window (Break)", usual::kBreakOnly);
+    FillCodeWindowMenu(*usual_.codeWindowBreak);
+    usual_.immediateWindow = PopupMenu("Immediate Window", usual::kImmediatePopup);
+    usual_.projectWindow = PopupMenu("Project Window", usual::kProjectPopup);
+    AddPopup(*usual_.projectWindow, "&Add", usual::kProjectPopupAdd, true);
+  }
+
+  static void FillCodeWindowMenu(const MemoryCommandBar& menu) {
+    Fill(*menu.Entries(), usual::kAboveToggle);
+    AddPopup(menu, "To&ggle", usual::kToggle, false);
+    Fill(*menu.Entries(), usual::kBelowToggle);
+  }
+
+  std::shared_ptr<MemoryCommandBar> Bar(std::string name, Entries entries) {
+    auto bar = std::make_shared<MemoryCommandBar>(std::move(name));
+    vbe_.AddCommandBar(bar);
+    Fill(*bar->Entries(), entries);
+    return bar;
+  }
+
+  std::shared_ptr<MemoryCommandBar> PopupMenu(std::string name, Entries entries) {
+    auto bar = Bar(std::move(name), entries);
+    bar->MakeMenu();
+    return bar;
+  }
+
+  std::shared_ptr<MemoryCommandBar> Menu(std::string name, std::string_view caption,
+                                         Entries entries, int id = control_id::kCustom) {
+    auto bar = PopupMenu(std::move(name), entries);
+    usual_.menuBar->Entries()->AddMenu(caption, bar, id);
+    return bar;
+  }
+
+  std::shared_ptr<MemoryCommandBar> OwnMenu(std::string_view caption, Entries entries) {
+    const auto popup = usual_.menuBar->Entries()->AddBuiltInPopup(caption);
+    Fill(*popup->Entries(), entries);
+    return popup->Menu();
+  }
+
+  MemoryVbe& vbe_;
+  UsualCommandBars usual_;
+};
 
 }  // namespace
 
-UsualCommandBars AddUsualCommandBars(MemoryVbe& vbe) {
-  UsualCommandBars usual;
-  usual.file = AddDropDownMenu(vbe, "File", "&File", kFile);
-  usual.addIns = AddDropDownMenu(vbe, "Add-Ins", "&Add-Ins", kAddIns);
-  usual.standard = AddToolbar(vbe, "Standard", kStandard);
-  usual.edit = AddToolbar(vbe, "Edit", kEdit);
-  usual.debug = AddToolbar(vbe, "Debug", kDebug);
-  usual.debug->SetVisible(false);
-  usual.codeWindow = AddPopupMenu(vbe, "Code Window", kAboveToggle);
-  Fill(*usual.codeWindow->Entries()->AddBuiltInPopup("To&ggle")->Entries(), kToggle);
-  Fill(*usual.codeWindow->Entries(), kBelowToggle);
-  usual.immediateWindow = AddPopupMenu(vbe, "Immediate Window", kImmediateWindow);
-  return usual;
-}
+UsualCommandBars AddUsualCommandBars(MemoryVbe& vbe) { return UsualBarBuilder(vbe).Build(); }
 
 }  // namespace brimwork

@@ -1,7 +1,5 @@
 #include "memory/usual_windows.h"
 
-#include "memory/usual_command_bars.h"
-
 namespace brimwork {
 UsualWindows AddUsualWindows(MemoryVbe& vbe) {
   UsualWindows usual;
@@ -15,10 +13,7 @@ UsualWindows AddUsualWindows(MemoryVbe& vbe) {
   usual.locals->SetVisible(false);
   usual.watch->SetVisible(false);
 
-  const UsualCommandBars bars = AddUsualCommandBars(vbe);
-  usual.standardBar = bars.standard;
-  usual.editBar = bars.edit;
-  usual.debugBar = bars.debug;
+  usual.bars = AddUsualCommandBars(vbe);
   return usual;
 }
 

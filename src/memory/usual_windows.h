@@ -5,6 +5,7 @@
 
 #include "memory/memory_text_window.h"
 #include "memory/memory_vbe.h"
+#include "memory/usual_command_bars.h"
 
 namespace brimwork {
 
@@ -18,9 +19,7 @@ struct UsualWindows {
 
   std::shared_ptr<MemoryTextWindow> immediateText;
 
-  std::shared_ptr<MemoryCommandBar> standardBar;
-  std::shared_ptr<MemoryCommandBar> editBar;
-  std::shared_ptr<MemoryCommandBar> debugBar;  // hidden at first
+  UsualCommandBars bars;
 };
 
 /// Adds them and the usual command bars to the environment, behind what it holds, and hands them

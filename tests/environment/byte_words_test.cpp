@@ -25,6 +25,16 @@ TEST(ContainsOneOf, IsNotMisledByNeighbouringCharacters) {
   EXPECT_FALSE(ContainsOneOf<':'>("9;9;9;9;9;9;\x7f\x80\xba\xff"));
 }
 
+TEST(Packed, HasABitForEachFlag) {
+  for (std::size_t place = 0; place < 16; ++place) {
+    std::vector<unsigned char> flags(16, 0);
+    flags[place] = 1;
+    EXPECT_EQ(byte_words::Packed(flags.data()), std::uint64_t{1} << place);
+    for (unsigned char& flag : flags) flag = 1 - flag;
+    EXPECT_EQ(byte_words::Packed(flags.data()), 0xFFFF - (std::uint64_t{1} << place));
+  }
+}
+
 TEST(HoldsLineFeedOrNonAscii, TellsPlainLinesFromTheOthers) {
   for (std::size_t length = 1; length < 40; ++length) {
     for (std::size_t place = 0; place < length; ++place) {

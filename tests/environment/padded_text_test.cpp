@@ -2,17 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
 
 namespace brimwork {
 namespace padded_text_test {
-
-std::array<bool, 256> Letters() {
-  std::array<bool, 256> letters{};
-  for (std::size_t c = 'a'; c <= 'z'; ++c) letters[c] = true;
-  return letters;
-}
 
 TEST(PaddedText, IsEmptyAtFirst) { EXPECT_EQ(PaddedText().View(), ""); }
 
@@ -67,26 +60,6 @@ TEST(PaddedText, TakesAPieceLongerThanAllRoom) {
   text.Append("a");
   text.Append(piece);
   EXPECT_EQ(text.View(), 'a' + piece);
-}
-
-TEST(PaddedText, StopsAtTheFirstCharacterThatItDoesNotLikeWhereverThatStands) {
-  for (std::size_t place = 0; place < 20; ++place) {
-    std::string piece(20, 'x');
-    piece[place] = '1';
-    PaddedText text;
-    EXPECT_EQ(text.AppendWhile(piece, Letters()), place);
-    EXPECT_EQ(text.View(), piece.substr(0, place));
-  }
-}
-
-TEST(PaddedText, AppendsAsLongAsItLikesTheCharacters) {
-  PaddedText text;
-  EXPECT_EQ(text.AppendWhile("abc1de", Letters()), 3u);
-  EXPECT_EQ(text.AppendWhile("1", Letters()), 0u);
-  EXPECT_EQ(text.AppendWhile("", Letters()), 0u);
-  EXPECT_EQ(text.AppendWhile("\xFF", Letters()), 0u);
-  EXPECT_EQ(text.AppendWhile("de", Letters()), 2u);
-  EXPECT_EQ(text.View(), "abcde");
 }
 
 }  // namespace padded_text_test

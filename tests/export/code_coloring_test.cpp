@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include "environment/run_time_error.h"
 #include "environment/text.h"
@@ -237,6 +239,16 @@ TEST_F(CodeColors, AnEmptyTextHasNone) { EXPECT_EQ(Of(""), (Colored{"", ""})); }
 TEST_F(CodeColors, EachStepGivesTheWindowItsTurnAndMovesTheBar) {
   EXPECT_THAT(StepsOf("ab"), ElementsAre("1/3", "2/3", "3/3"));
   EXPECT_THAT(StepsOf(""), ElementsAre("1/1"));
+}
+
+TEST_F(CodeColors, AWordIsColoredInTheStepThatEndsIt) {
+  std::vector<std::string> seen;
+  messageLoop.onDoEvents = [&] { seen.push_back(ColorsOf(work.Content())); };
+  Of("if'a");
+  EXPECT_THAT(seen, ElementsAre("....", "....", "...."));
+  seen.clear();
+  Of("if a");
+  EXPECT_THAT(seen, ElementsAre("....", "....", "....", "nn..", "nn.."));
 }
 
 TEST_F(CodeColors, ALiteralIsOneStep) {

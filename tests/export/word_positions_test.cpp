@@ -73,6 +73,16 @@ TEST(WordPositions, TellsWordsApart) {
   for (const std::string& word : words) EXPECT_EQ(positions.Of(word, NeverAsked), next++) << word;
 }
 
+TEST(WordPositions, LooksAtNothingBehindAWord) {
+  WordPositions positions;
+  const std::string text = "Dimension of many things";
+  EXPECT_EQ(positions.Of("Dim", [](std::string_view) { return 42; }), 42);
+  EXPECT_EQ(positions.Of(std::string_view(text).substr(0, 3), text.size(), NeverAsked), 42);
+  positions.Of(std::string_view(text).substr(0, 9), text.size(),
+               [](std::string_view) { return 7; });
+  EXPECT_EQ(positions.Of("Dimension", NeverAsked), 7);
+}
+
 TEST(WordPositions, RemembersAnyNumberOfWords) {
   WordPositions positions;
   constexpr int kWords = 50'000;

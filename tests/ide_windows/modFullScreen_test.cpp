@@ -66,7 +66,7 @@ TEST_F(FullScreen, UsedTwiceShowsExactlyWhatWasThereBefore) {
   EXPECT_EQ(Windows(), windows);
   EXPECT_EQ(Bars(), bars);
   EXPECT_FALSE(usual.locals->Visible());
-  EXPECT_FALSE(usual.debugBar->Visible());
+  EXPECT_FALSE(usual.bars.debug->Visible());
 }
 
 TEST_F(FullScreen, ForgetsWhatItHasShownAgain) {
@@ -96,7 +96,7 @@ TEST_F(FullScreen, TheEarlierLayoutComesBackAfterARestart) {
   const UsualWindows again = AddUsualWindows(restarted.vbe);
   for (const auto& window : {again.project, again.properties, again.toolbox, again.immediate})
     window->SetVisible(false);
-  for (const auto& bar : {again.standardBar, again.editBar}) bar->SetVisible(false);
+  for (const auto& bar : {again.bars.standard, again.bars.edit}) bar->SetVisible(false);
   Environment fresh = restarted.Parts({.settingsArea = &memory.settingsArea});
   ToggleFullScreen(fresh);
   EXPECT_EQ(ShownWindows(restarted.vbe), windows);

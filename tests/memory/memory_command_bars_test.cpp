@@ -1,3 +1,4 @@
+// What command bars of plain data do beyond what all do (tests/bench/contract).
 #include "memory/memory_command_bars.h"
 
 #include <gmock/gmock.h>
@@ -15,9 +16,9 @@ namespace memory_command_bars_test {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::shared_ptr<CommandBarControl> AddButton(CommandBarControls& controls, std::string_view caption,
-                                             int before = 0) {
-  auto button = controls.Add({.before = before});
+std::shared_ptr<CommandBarControl> AddButton(CommandBarControls& controls,
+                                             std::string_view caption) {
+  auto button = controls.Add({});
   button->SetCaption(caption);
   return button;
 }
@@ -52,59 +53,6 @@ int NumberOfErrorIn(const std::function<void()>& step) {
   return 0;
 }
 
-TEST_F(MemoryCommandBarsTest, ControlsComeAtTheEndOrInFrontOfAPlace) {
-  AddButton(*controls, "b");
-  AddButton(*controls, "c");
-  const auto first = AddButton(*controls, "a", 1);
-  const auto last = AddButton(*controls, "d", 4);
-  EXPECT_THAT(Captions(*controls), ElementsAre("a", "b", "c", "d"));
-  EXPECT_EQ(first->Index(), 1);
-  EXPECT_EQ(last->Index(), 4);
-  EXPECT_EQ(NumberOfErrorIn([&] { controls->Add({.before = 6}); }), 5);
-  EXPECT_EQ(NumberOfErrorIn([&] { controls->Add({.before = -1}); }), 5);
-}
-
-TEST_F(MemoryCommandBarsTest, ControlsAreFoundByNumberAndByCaptionWithoutAccessKeyAndCase) {
-  AddButton(*controls, "Cu&t");
-  const auto toggle = AddPopup(*controls, "To&ggle");
-  EXPECT_EQ(controls->Item(2), toggle);
-  EXPECT_EQ(controls->Item("Toggle"), toggle);
-  EXPECT_EQ(controls->Item("toggl&e"), toggle);
-  EXPECT_EQ(NumberOfErrorIn([&] { controls->Item("Tog"); }), 5);
-  EXPECT_EQ(NumberOfErrorIn([&] { controls->Item(0); }), 5);
-  EXPECT_EQ(NumberOfErrorIn([&] { controls->Item(3); }), 5);
-}
-
-TEST_F(MemoryCommandBarsTest, ANewControlIsCustomAndPlain) {
-  const auto button = controls->Add({});
-  EXPECT_EQ(button->Type(), control_type::kButton);
-  EXPECT_EQ(button->Id(), control_id::kCustom);
-  EXPECT_EQ(button->Caption(), "");
-  EXPECT_EQ(button->Tag(), "");
-  EXPECT_FALSE(button->BeginGroup());
-  EXPECT_EQ(button->Style(), button_style::kAutomatic);
-}
-
-TEST_F(MemoryCommandBarsTest, AControlKeepsWhatItIsGiven) {
-  const auto button = controls->Add({});
-  button->SetTag("mine");
-  button->SetBeginGroup(true);
-  button->SetStyle(button_style::kIconAndCaption);
-  EXPECT_EQ(button->Tag(), "mine");
-  EXPECT_TRUE(button->BeginGroup());
-  EXPECT_EQ(button->Style(), button_style::kIconAndCaption);
-}
-
-TEST_F(MemoryCommandBarsTest, AButtonHasNoEntriesAndAPopupNoFace) {
-  const auto button = controls->Add({});
-  const auto popup = AddPopup(*controls, "p");
-  EXPECT_EQ(NumberOfErrorIn([&] { button->Controls(); }), 438);
-  EXPECT_EQ(NumberOfErrorIn([&] { popup->SetStyle(3); }), 438);
-  EXPECT_EQ(NumberOfErrorIn([&] { popup->Style(); }), 438);
-  EXPECT_EQ(NumberOfErrorIn([&] { popup->PasteFace(); }), 438);
-  EXPECT_EQ(popup->Type(), control_type::kPopup);
-}
-
 TEST_F(MemoryCommandBarsTest, OnlyButtonsAndPopupsAreAdded) {
   EXPECT_EQ(NumberOfErrorIn([&] { controls->Add({.type = 4}); }), 5);
   EXPECT_EQ(controls->Count(), 0);
@@ -119,26 +67,6 @@ TEST_F(MemoryCommandBarsTest, AFaceIsPastedFromTheClipboard) {
   button->PasteFace();
   clipboard.Clear();
   EXPECT_EQ(menu->Entries()->All()[0]->Face(), "faces/indent");
-}
-
-TEST_F(MemoryCommandBarsTest, AClickReachesTheHandlerWithTheClickedControl) {
-  const auto button = AddButton(*controls, "Indent");
-  std::vector<std::string> clicked;
-  const auto events = bars.EventsOf(
-      *button, [&](CommandBarControl& control) { clicked.push_back(control.Caption()); });
-  button->SetCaption("Outdent");
-  button->Execute();
-  EXPECT_THAT(clicked, ElementsAre("Outdent"));
-}
-
-TEST_F(MemoryCommandBarsTest, ClicksEndWithTheBinding) {
-  const auto button = AddButton(*controls, "Indent");
-  int clicks = 0;
-  auto events = bars.EventsOf(*button, [&](CommandBarControl&) { ++clicks; });
-  button->Execute();
-  events.reset();
-  button->Execute();
-  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(MemoryCommandBarsTest, ControlsOfOneIdAndTagAreTakenForOne) {
@@ -178,16 +106,6 @@ TEST_F(MemoryCommandBarsTest, AHandlerMayDeleteItsControlAndItsBinding) {
   EXPECT_EQ(controls->Count(), 0);
 }
 
-TEST_F(MemoryCommandBarsTest, AHandlerMayEndTheBindingOfAnother) {
-  const auto button = AddButton(*controls, "b");
-  std::unique_ptr<CommandBarEvents> second;
-  int clicks = 0;
-  const auto first = bars.EventsOf(*button, [&](CommandBarControl&) { second.reset(); });
-  second = bars.EventsOf(*button, [&](CommandBarControl&) { ++clicks; });
-  button->Execute();
-  EXPECT_EQ(clicks, 0);
-}
-
 TEST_F(MemoryCommandBarsTest, ADeletedControlRaisesOnUse) {
   const auto button = AddButton(*controls, "b");
   button->Delete();
@@ -210,22 +128,10 @@ TEST_F(MemoryCommandBarsTest, ADeletedControlRaisesOnUse) {
   for (std::size_t i = 0; i < uses.size(); ++i) EXPECT_EQ(NumberOfErrorIn(uses[i]), 440) << i;
 }
 
-TEST_F(MemoryCommandBarsTest, TheEntriesOfAPopupGoWithIt) {
-  const auto popup = AddPopup(*controls, "p");
-  const auto entries = popup->Controls();
-  const auto inner = AddPopup(*entries, "inner");
-  const auto button = AddButton(*inner->Controls(), "b");
-  popup->Delete();
-  EXPECT_EQ(NumberOfErrorIn([&] { button->Caption(); }), 440);
-  EXPECT_EQ(NumberOfErrorIn([&] { inner->Caption(); }), 440);
-  EXPECT_EQ(NumberOfErrorIn([&] { entries->Count(); }), 440);
-  EXPECT_EQ(NumberOfErrorIn([&] { entries->Add({}); }), 440);
-}
-
 TEST_F(MemoryCommandBarsTest, AMenuShowsTheEntriesOfItsBarAndLeavesThemThere) {
   const auto bar = std::make_shared<MemoryCommandBar>("Add-Ins");
   bars.Add(bar);
-  const auto popup = menu->Entries()->AddMenu("&Add-Ins", *bar);
+  const auto popup = menu->Entries()->AddMenu("&Add-Ins", bar);
   const auto button = AddButton(*bar->Controls(), "b");
   EXPECT_THAT(Captions(*popup->Controls()), ElementsAre("b"));
   popup->Delete();
@@ -259,18 +165,6 @@ TEST_F(MemoryCommandBarsTest, ANewBarIsHiddenAndHasANameOfItsOwn) {
   EXPECT_EQ(bars.OfName("tools"), nullptr);
   EXPECT_EQ(NumberOfErrorIn([&] { bars.Add({.name = "Tools"}); }), 5);
   EXPECT_EQ(NumberOfErrorIn([&] { bars.Add({.name = "Menu"}); }), 5);
-}
-
-TEST_F(MemoryCommandBarsTest, ABarKeepsItsPlace) {
-  const auto bar = bars.Add({.name = "Tools"});
-  bar->SetPosition(bar_position::kBottom);
-  bar->SetRowIndex(2);
-  bar->SetLeft(-3);
-  bar->SetTop(40);
-  EXPECT_EQ(bar->Position(), bar_position::kBottom);
-  EXPECT_EQ(bar->RowIndex(), 2);
-  EXPECT_EQ(bar->Left(), -3);
-  EXPECT_EQ(bar->Top(), 40);
 }
 
 TEST_F(MemoryCommandBarsTest, ABarRefusesAPlaceThatThereIsNot) {

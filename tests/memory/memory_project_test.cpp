@@ -60,5 +60,46 @@ TEST_F(MemoryProjectTest, AComponentMayNotHaveAnothersName) {
   EXPECT_EQ(component->Name(), "module1");
 }
 
+TEST_F(MemoryProjectTest, ClassModulesAreNumberedByThemselves) {
+  project.AddVBComponent(component_type::kStandardModule);
+  const auto component = project.AddVBComponent(component_type::kClassModule);
+  EXPECT_EQ(component->Name(), "Class1");
+  EXPECT_EQ(component->Type(), component_type::kClassModule);
+}
+
+TEST_F(MemoryProjectTest, ARemovedComponentIsNoneOfItsAnyMore) {
+  const auto kept = project.AddVBComponent(1);
+  const auto removed = project.AddVBComponent(1);
+  project.Remove(*removed);
+  EXPECT_EQ(project.VBComponents().size(), 1u);
+  EXPECT_THROW(project.Remove(*removed), RunTimeError);
+  removed->SetName("Module1");
+  kept->SetName("Module2");
+  EXPECT_EQ(removed->Name(), "Module1");
+}
+
+TEST_F(MemoryProjectTest, AComponentMayOutliveItsProject) {
+  std::shared_ptr<MemoryComponent> component;
+  {
+    MemoryProject other([] { return std::string(); });
+    component = other.AddModule("Module1", "");
+  }
+  component->SetName("Module2");
+  EXPECT_EQ(component->Name(), "Module2");
+}
+
+TEST_F(MemoryProjectTest, WhatIsNoNameIsRefused) {
+  const auto component = project.AddVBComponent(1);
+  for (const char* name : {"", "1st", "_x", "a b", "a\"", "a.b"}) {
+    EXPECT_THROW(component->SetName(name), RunTimeError) << name;
+  }
+  component->SetName(
+      "St\xC3\xBC"
+      "ck_1");
+  EXPECT_EQ(component->Name(),
+            "St\xC3\xBC"
+            "ck_1");
+}
+
 }  // namespace memory_project_test
 }  // namespace brimwork

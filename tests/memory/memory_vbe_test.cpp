@@ -145,5 +145,20 @@ TEST_F(MemoryVbeTest, TheImmediateWindowTakesText) {
   EXPECT_EQ(usual.immediateText->Text(), "? Now");
 }
 
+TEST_F(MemoryVbeTest, ListsItsPanesInTheOrderOfTheirOpening) {
+  const auto first = Open("Module1");
+  const auto second = Open("Module2");
+  first->ContainingWindow()->SetFocus();
+  EXPECT_THAT(vbe.Panes(), ElementsAre(first, second));
+  EXPECT_EQ(vbe.ActivePane(), first);
+  first->ContainingWindow()->Close();
+  EXPECT_THAT(vbe.Panes(), ElementsAre(second));
+}
+
+TEST_F(MemoryVbeTest, TheMainWindowMayHaveAnotherCaption) {
+  vbe.SetCaption("Stock - Editor");
+  EXPECT_EQ(vbe.MainWindow()->Caption(), "Stock - Editor");
+}
+
 }  // namespace memory_vbe_test
 }  // namespace brimwork

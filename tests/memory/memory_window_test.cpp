@@ -121,7 +121,7 @@ TEST_F(MemoryWindowTest, ClosingAnotherCodeWindowLeavesTheFocusWhereItIs) {
 
 TEST_F(MemoryWindowTest, AClosedWindowTakesNoFocusAndClosesOnlyOnce) {
   int removals = 0;
-  windows.OnRemove = [&](MemoryWindow&) { ++removals; };
+  windows.OnRemove([&](MemoryWindow&) { ++removals; });
   locals->SetFocus();
   code->Close();
   code->Close();
@@ -132,12 +132,29 @@ TEST_F(MemoryWindowTest, AClosedWindowTakesNoFocusAndClosesOnlyOnce) {
 
 TEST_F(MemoryWindowTest, TellsWhichWindowGotTheFocusAndWhichGoesAway) {
   std::vector<std::string> told;
-  windows.OnActivate = [&](MemoryWindow& window) { told.push_back("active " + window.Caption()); };
-  windows.OnRemove = [&](MemoryWindow& window) { told.push_back("gone " + window.Caption()); };
+  windows.OnActivate([&](MemoryWindow& window) { told.push_back("active " + window.Caption()); });
+  windows.OnRemove([&](MemoryWindow& window) { told.push_back("gone " + window.Caption()); });
   immediate->SetFocus();
   code->Close();
   locals->Close();
   EXPECT_THAT(told, ElementsAre("active Immediate", "gone Module1 (Code)"));
+}
+
+TEST_F(MemoryWindowTest, EveryChangeIsNoticedAndNothingElse) {
+  const auto changes = [&](const std::function<void()>& step) {
+    const auto before = windows.Revision();
+    step();
+    return windows.Revision() > before;
+  };
+  const auto window = windows.Add("Locals", window_type::kLocals);
+  EXPECT_TRUE(changes([&] { window->SetFocus(); }));
+  EXPECT_FALSE(changes([&] { window->SetFocus(); }));
+  EXPECT_TRUE(changes([&] { window->SetCaption("Watches"); }));
+  EXPECT_FALSE(changes([&] { window->SetCaption("Watches"); }));
+  EXPECT_TRUE(changes([&] { window->SetVisible(false); }));
+  EXPECT_FALSE(changes([&] { window->SetVisible(false); }));
+  EXPECT_TRUE(changes([&] { windows.Remove(*window); }));
+  EXPECT_TRUE(changes([&] { windows.Add("Locals", window_type::kLocals); }));
 }
 
 }  // namespace memory_window_test

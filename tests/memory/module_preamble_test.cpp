@@ -132,5 +132,40 @@ TEST(AttributeLine, ReadsTheModulesName) {
     EXPECT_EQ(ModuleNameIn(line), "") << line;
 }
 
+std::string Renamed(std::string_view text) {
+  return WithModuleName(text, ReadPreamble(text, "x.frm"), "New");
+}
+
+TEST(ModulePreamble, SaysWhatTheFileLaysOut) {
+  EXPECT_EQ(ReadPreamble("Begin VB.MDIForm f\nEnd\n", "x.frm").objectClass, "VB.MDIForm");
+  EXPECT_EQ(ReadPreamble("BEGIN\nEND\n", "x.cls").objectClass, "");
+  EXPECT_EQ(ReadPreamble("Sub A()\n", "x.bas").objectClass, "");
+}
+
+TEST(ModulePreamble, HasAnotherModuleNameInItsAttribute) {
+  EXPECT_EQ(Renamed("Attribute VB_Name = \"a\"\r\nAttribute VB_Exposed = False\r\na\r\n"),
+            "Attribute VB_Name = \"New\"\r\nAttribute VB_Exposed = False\r\n");
+  EXPECT_EQ(Renamed("\tattribute  vb_name=\"a\""), "\tattribute  vb_name=\"New\"");
+}
+
+TEST(ModulePreamble, HasAnotherModuleNameInItsLayout) {
+  EXPECT_EQ(Renamed("Begin VB.Form  a \n Begin VB.Label a\n End\nEnd\nAttribute VB_Name = \"a\"\n"),
+            "Begin VB.Form  New \n Begin VB.Label a\n End\nEnd\nAttribute VB_Name = \"New\"\n");
+  EXPECT_EQ(Renamed("Begin VB.Form b\nEnd\nAttribute VB_Name = \"a\"\n"),
+            "Begin VB.Form b\nEnd\nAttribute VB_Name = \"New\"\n");
+  EXPECT_EQ(Renamed("BEGIN\nEND\nAttribute VB_Name = \"a\"\n"),
+            "BEGIN\nEND\nAttribute VB_Name = \"New\"\n");
+}
+
+TEST(ModulePreamble, GetsAnAttributeForANameWhereItHasNone) {
+  EXPECT_EQ(Renamed("Sub A()\nEnd Sub\n"), "Attribute VB_Name = \"New\"\n");
+  EXPECT_EQ(Renamed(""), "Attribute VB_Name = \"New\"\r\n");
+  EXPECT_EQ(Renamed("\xEF\xBB\xBFSub A()"),
+            "\xEF\xBB\xBF"
+            "Attribute VB_Name = \"New\"\r\n");
+  EXPECT_EQ(Renamed("Attribute VB_Exposed = False"),
+            "Attribute VB_Exposed = False\r\nAttribute VB_Name = \"New\"\r\n");
+}
+
 }  // namespace module_preamble_test
 }  // namespace brimwork

@@ -50,6 +50,32 @@ TEST(ProcedureIndex, LinesBehindTheLastClosingLineBelongToNoProcedure) {
   EXPECT_EQ(index.At(text, 99), nullptr);
 }
 
+TEST(ProcedureIndex, LinesBehindTheLastClosingLineBelongToTheLastProcedureWhereThatIsSo) {
+  const ModuleText text = ModuleText::FromText(
+      JoinedLines({"Dim x", "Sub A()", "End Sub", "", "Sub B()", "End Sub", "", "' the end"}));
+  ProcedureIndex index(LinesBelow::kTheLastProcedures);
+  EXPECT_EQ(index.At(text, 1), nullptr);
+  EXPECT_EQ(index.At(text, 2)->end, 3);
+  EXPECT_EQ(index.At(text, 4)->body, 5);
+  EXPECT_EQ(index.At(text, 8)->body, 5);
+  EXPECT_EQ(index.At(text, 6)->end, 8);
+  EXPECT_EQ(index.FirstNamed(text, "B", ProcKind::kProcedure)->end, 8);
+  EXPECT_EQ(index.At(text, 9), nullptr);
+}
+
+TEST(ProcedureIndex, LinesThatComeBelowTheLastProcedureAreItsOwnAsWell) {
+  ModuleText text = ModuleText::FromText(JoinedLines({"Sub A()", "End Sub"}));
+  ProcedureIndex index(LinesBelow::kTheLastProcedures);
+  EXPECT_EQ(index.At(text, 1)->end, 2);
+  text.Insert(3, "' below");
+  index.NoteEdit(3);
+  EXPECT_EQ(index.At(text, 3)->body, 1);
+  text.Insert(4, "Sub B()\r\nEnd Sub");
+  index.NoteEdit(4);
+  EXPECT_EQ(index.At(text, 3)->body, 4);
+  EXPECT_EQ(index.At(text, 1)->end, 2);
+}
+
 TEST(ProcedureIndex, DeclarationLinesBelongToNoProcedure) {
   const ModuleText text = ModuleText::FromText(JoinedLines({"Dim x", "Sub A()", "End Sub"}));
   ProcedureIndex index;

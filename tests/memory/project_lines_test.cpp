@@ -95,5 +95,35 @@ TEST(ProjectText, IsNotAnyText) {
   }
 }
 
+TEST(ComponentLine, GoesBehindTheLastOfItsKey) {
+  EXPECT_EQ(WithComponentLine("Type=Exe\nClass=C; C.cls\nModule=A; a.bas\n", "Class", "D", "D.cls"),
+            "Type=Exe\nClass=C; C.cls\nClass=D; D.cls\nModule=A; a.bas\n");
+  EXPECT_EQ(WithComponentLine("Type=Exe\nModule=A; a.bas\n", "Class", "D", "D.cls"),
+            "Type=Exe\nModule=A; a.bas\nClass=D; D.cls\n");
+}
+
+TEST(ProjectValue, TakesThePlaceOfTheOldOneAsThatStands) {
+  EXPECT_EQ(WithProjectValue("Type=Exe\nName=\"A\"\nX=1\n", "name", "B"),
+            "Type=Exe\nName=\"B\"\nX=1\n");
+  EXPECT_EQ(WithProjectValue("Type=Exe\nName= A \nName=B", "Name", "C"),
+            "Type=Exe\nName= A \nName=C");
+}
+
+TEST(ProjectValue, GetsALineWhereItHasNone) {
+  EXPECT_EQ(WithProjectValue("Type=Exe\r\nForm=F.frm\r\nX=1\r\n", "Name", "B"),
+            "Type=Exe\r\nForm=F.frm\r\nName=\"B\"\r\nX=1\r\n");
+}
+
+TEST(ProjectLines, GoWithTheirLineEnds) {
+  const std::string bytes = "\xEF\xBB\xBFType=Exe\r\nForm=F.frm\nName=A";
+  const auto lines = ProjectLinesOf(bytes);
+  EXPECT_EQ(WithoutLine(bytes, lines[0]),
+            "\xEF\xBB\xBF"
+            "Form=F.frm\nName=A");
+  EXPECT_EQ(WithoutLine(bytes, lines[1]), "\xEF\xBB\xBFType=Exe\r\nName=A");
+  EXPECT_EQ(WithoutLine(bytes, lines[2]), "\xEF\xBB\xBFType=Exe\r\nForm=F.frm\n");
+  EXPECT_EQ(WithValueOf(bytes, lines[1], "G.frm"), "\xEF\xBB\xBFType=Exe\r\nForm=G.frm\nName=A");
+}
+
 }  // namespace project_lines_test
 }  // namespace brimwork

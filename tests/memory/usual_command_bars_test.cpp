@@ -48,5 +48,44 @@ TEST_F(UsualCommandBarsTest, TheCodeWindowsPopupHasItsToggleMenuAmongOthers) {
   EXPECT_GT(bars.codeWindow->Controls()->Count(), 9);
 }
 
+TEST_F(UsualCommandBarsTest, TheMenuBarHasTheUsualMenus) {
+  std::vector<std::string> captions;
+  for (const auto& menu : bars.menuBar->Entries()->All()) captions.push_back(menu->LastCaption());
+  EXPECT_THAT(captions, ElementsAre("&File", "&Edit", "&View", "&Project", "F&ormat", "&Debug",
+                                    "&Run", "&Add-Ins", "&Window", "&Help"));
+  EXPECT_EQ(bars.menuBar->Controls()->Item("Window")->Id(), 30009);
+  EXPECT_EQ(bars.menuBar->Kind(), bar_type::kMenuBar);
+}
+
+TEST_F(UsualCommandBarsTest, TheBarsNamedEditAndDebugAreTheToolbars) {
+  EXPECT_EQ(memory.vbe.CommandBarOfName("Edit"), bars.edit);
+  EXPECT_EQ(memory.vbe.CommandBarOfName("Debug"), bars.debug);
+  EXPECT_EQ(memory.vbe.CommandBarOfName("Run"), bars.run);
+  EXPECT_EQ(bars.editMenu->Controls()->Item("Undo")->Id(), 128);
+  EXPECT_EQ(bars.debugMenu->Controls()->Item("Toggle Breakpoint")->Id(), 51);
+}
+
+TEST_F(UsualCommandBarsTest, NoProgramCanBeStoppedWhileNoneRuns) {
+  EXPECT_FALSE(memory.vbe.commandBars.Find({.id = 189})->Details().enabled);
+  EXPECT_FALSE(memory.vbe.commandBars.Find({.id = 228})->Details().enabled);
+  EXPECT_TRUE(memory.vbe.commandBars.Find({.id = 186})->Details().enabled);
+}
+
+TEST_F(UsualCommandBarsTest, ManyCommandsShareAnIdAndAreToldApartAllTheSame) {
+  const auto& commands = memory.vbe.commandBars;
+  const auto added = commands.ControlsOf(command::kAddModule);
+  ASSERT_EQ(added.size(), 2u);
+  EXPECT_EQ(added[0]->Id(), 746);
+  EXPECT_EQ(added[0]->Details().faceId, 0);
+  EXPECT_EQ(commands.ControlsOf(command::kExit).size(), 1u);
+}
+
+TEST_F(UsualCommandBarsTest, ThePopupsOfBothStatesOfTheCodeWindowToggle) {
+  EXPECT_EQ(memory.vbe.CommandBarOfName("Code Window (Break)"), bars.codeWindowBreak);
+  EXPECT_EQ(bars.codeWindowBreak->Controls()->Item("Toggle")->Type(), control_type::kPopup);
+  EXPECT_EQ(CaptionOf(bars.codeWindowBreak, 1), "&Run to Cursor");
+  EXPECT_EQ(memory.vbe.CommandBarOfName("Project Window"), bars.projectWindow);
+}
+
 }  // namespace usual_command_bars_test
 }  // namespace brimwork

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "memory/utf8_path.h"
+
 namespace brimwork {
 
 class TemporaryFolder {
@@ -27,7 +29,8 @@ class TemporaryFolder {
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-  std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+  /// name: UTF-8.
+  std::filesystem::path operator/(std::string_view name) const { return path_ / PathOf(name); }
   const std::filesystem::path& Path() const { return path_; }
 
  private:

@@ -26,34 +26,6 @@ std::pair<std::string, OpenFile> MakeTemporaryFile(const std::string& folder) {
 
 }  // namespace
 
-std::wstring Wide(std::string_view text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(),
-                                         static_cast<int>(wide.size()));
-  wide.resize(static_cast<std::size_t>(length));
-  return wide;
-}
-
-std::string Narrow(std::wstring_view text) {
-  constexpr std::size_t kMostBytesOfAUnit = 3;
-  std::string narrow(text.size() * kMostBytesOfAUnit, '\0');
-  const int size =
-      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), narrow.data(),
-                          static_cast<int>(narrow.size()), nullptr, nullptr);
-  narrow.resize(static_cast<std::size_t>(size));
-  return narrow;
-}
-
-std::string SystemWords(DWORD error) {
-  wchar_t words[512];
-  const DWORD length =
-      FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
-                     words, static_cast<DWORD>(std::size(words)), nullptr);
-  if (length == 0) return "error " + std::to_string(error);
-  return std::string(TrimRight(Narrow({words, length}), "\r\n. "));
-}
-
 void ThrowSystemError(const std::string& path, const std::string& call) {
   throw SourceError(path, call + ": " + SystemWords(GetLastError()));
 }

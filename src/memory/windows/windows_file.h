@@ -8,15 +8,13 @@
 #include <utility>
 
 #include "memory/disk_file.h"
+#include "win32/wide_text.h"
 
 namespace brimwork::windows {
 
-/// A path in UTF-8 as the system's calls take it.
-std::wstring Wide(std::string_view text);
-std::string Narrow(std::wstring_view text);
-
-/// The system's words for an error of its calls, without the line end behind them.
-std::string SystemWords(DWORD error);
+using win32::Narrow;
+using win32::SystemWords;
+using win32::Wide;
 
 /// Throws SourceError "path: call: the system's words" for the last error.
 [[noreturn]] void ThrowSystemError(const std::string& path, const std::string& call);

@@ -3,8 +3,6 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,6 +15,7 @@
 #include <thread>
 
 #include "memory/source_error.h"
+#include "support/posix/disk_file_fixture.h"
 #include "support/posix/refused_calls.h"
 #include "support/temporary_folder.h"
 
@@ -24,75 +23,10 @@ namespace brimwork {
 namespace disk_file_test {
 
 namespace fs = std::filesystem;
+using DiskFile = DiskFileFixture;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-constexpr const char* kNoError = "no error";
-
-std::string ErrorOf(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const SourceError& error) {
-    return error.what();
-  }
-  return kNoError;
-}
-
-FileComposer Writing(std::string bytes) {
-  return [bytes = std::move(bytes)](const ByteSink& sink) { sink(bytes); };
-}
-
-/// Runs call without root's rights, for root may read and write everything.
-void AsNobody(const std::function<void()>& call) {
-  const bool isRoot = geteuid() == 0;
-  if (isRoot && seteuid(65534) != 0) throw std::runtime_error("seteuid");
-  call();
-  if (isRoot && seteuid(0) != 0) throw std::runtime_error("seteuid");
-}
-
-/// Lets no file become larger, as a full disk would, for its life.
-class SizeLimit {
- public:
-  explicit SizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit limit{bytes, old_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~SizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, oldHandler_);
-  }
-
- private:
-  rlimit old_;
-  void (*oldHandler_)(int);
-};
-
-class DiskFile : public testing::Test {
- protected:
-  DiskFile() { fs::permissions(folder_.Path(), fs::perms::all); }
-
-  std::string Write(const std::string& name, const std::string& bytes) {
-    WriteBytes(folder_ / name, bytes);
-    return In(name);
-  }
-  std::string In(const std::string& name) { return (folder_ / name).string(); }
-
-  int EntriesInFolder() {
-    int entries = 0;
-    for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder_.Path())) ++entries;
-    return entries;
-  }
-
-  static mode_t ModeOf(const std::string& path) {
-    struct stat status;
-    if (stat(path.c_str(), &status) != 0) throw std::runtime_error("stat");
-    return status.st_mode & 07777;
-  }
-
-  TemporaryFolder folder_;
-};
 
 TEST_F(DiskFile, ReadsAllBytes) {
   const std::string bytes("a\0b\r\n\xFF", 6);
@@ -289,67 +223,6 @@ TEST_F(DiskFile, LeavesTheFileAsItWasWhenTheBytesCannotBeComposed) {
             "a.bas:3:4: no such character");
   EXPECT_EQ(ReadBytes(path), "old");
   EXPECT_EQ(EntriesInFolder(), 1);
-}
-
-TEST_F(DiskFile, LeavesTheFileAsItWasWhenThereIsNoRoom) {
-  const std::string path = Write("a.bas", "old");
-  std::string error;
-  {
-    const SizeLimit limit(100'000);
-    error = ErrorOf([&] {
-      WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing(std::string(200'000, 'x')));
-    });
-  }
-  EXPECT_EQ(error, path + ": write: File too large");
-  EXPECT_EQ(ReadBytes(path), "old");
-  EXPECT_EQ(EntriesInFolder(), 1);
-}
-
-/// A disk of 1 MB of the test's own.
-class SmallDisk {
- public:
-  explicit SmallDisk(const std::string& folder) : folder_(folder) {
-    isMounted_ = mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
-  }
-  ~SmallDisk() {
-    if (isMounted_) umount2(folder_.c_str(), MNT_DETACH);
-  }
-  bool IsMounted() const { return isMounted_; }
-
- private:
-  std::string folder_;
-  bool isMounted_;
-};
-
-TEST_F(DiskFile, LeavesTheFileAsItWasOnAFullDisk) {
-  fs::create_directory(folder_ / "disk");
-  const SmallDisk disk(In("disk"));
-  if (!disk.IsMounted()) GTEST_SKIP() << "this user may not mount: " << std::strerror(errno);
-  const std::string old(300'000, 'o');
-  const std::string path = Write("disk/a.bas", old);
-  EXPECT_EQ(ErrorOf([&] {
-              WriteWholeFile(path, ReadWholeFile(path).snapshot,
-                             Writing(std::string(900'000, 'n')));
-            }),
-            path + ": write: No space left on device");
-  EXPECT_EQ(ReadBytes(path), old);
-}
-
-TEST_F(DiskFile, LeavesAFileWithSeveralNamesAsItWasOnAFullDisk) {
-  fs::create_directory(folder_ / "disk");
-  const SmallDisk disk(In("disk"));
-  if (!disk.IsMounted()) GTEST_SKIP() << "this user may not mount: " << std::strerror(errno);
-  const std::string old(100'000, 'o');
-  const std::string path = Write("disk/a.bas", old);
-  fs::create_hard_link(path, folder_ / "disk/b.bas");
-  // New bytes and the copy of the old ones have room, the file itself has not.
-  EXPECT_EQ(ErrorOf([&] {
-              WriteWholeFile(path, ReadWholeFile(path).snapshot,
-                             Writing(std::string(600'000, 'n')));
-            }),
-            path + ": fallocate: No space left on device");
-  EXPECT_EQ(ReadBytes(In("disk/b.bas")), old);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "disk"), {}), 2);
 }
 
 TEST_F(DiskFile, UsesANamedTemporaryFileWhereTheFileSystemKnowsNoOther) {

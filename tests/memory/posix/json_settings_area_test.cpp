@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -14,6 +13,7 @@
 #include <vector>
 
 #include "support/json_settings_fixture.h"
+#include "support/posix/size_limit.h"
 #include "support/scoped_variable.h"
 #include "support/temporary_folder.h"
 
@@ -153,31 +153,11 @@ TEST_F(JsonSettingsAreaTest, AReadOnlyFileStaysAsItIs) {
   EXPECT_EQ(Get("Header"), "x");
 }
 
-/// Lets no file grow beyond a size while it lives, which looks to a writer like a full disk.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &old_);
-    const rlimit limited{bytes, old_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limited);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &old_);
-    std::signal(SIGXFSZ, oldHandler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit old_{};
-  void (*oldHandler_)(int);
-};
-
 TEST_F(JsonSettingsAreaTest, AFileThatCannotBeWrittenWholeStaysAsItIs) {
   Save("Header", "x");
   std::string error;
   {
-    const FileSizeLimit limit(100);
+    const SizeLimit limit(100);
     error = Error([&] { Save("Header", std::string(1000, 'y')); });
   }
   EXPECT_EQ(error, file.string() + ": the settings file cannot be written: File too large");

@@ -1,0 +1,14 @@
+// The system's dialogs for files.
+#pragma once
+
+#include <windows.h>
+
+#include <filesystem>
+#include <optional>
+
+namespace brimwork::bench {
+
+/// The file that the user chose; nothing when the dialog was cancelled.
+std::optional<std::filesystem::path> AskForProject(HWND owner);
+
+}  // namespace brimwork::bench

@@ -1,0 +1,320 @@
+#include "bench/screen/workbench_windows.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "bench/screen/faults.h"
+#include "win32/wide_text.h"
+
+namespace brimwork::bench {
+namespace {
+
+Bounds BoundsIn(HWND parent, HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  if (parent != nullptr) MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
+  return {static_cast<int>(area.left), static_cast<int>(area.top),
+          static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+}
+
+}  // namespace
+
+WorkbenchWindows::WorkbenchWindows(Workbench& bench)
+    : bench_(bench),
+      frame_(*this),
+      parts_{bench_, *this, fonts_, faces_},
+      menus_(faces_, [this](const auto& entries) { return FurtherEntries(entries); }),
+      bars_(parts_, frame_.Handle()),
+      tools_(parts_, frame_.Handle()),
+      workspace_(parts_, frame_.Client()),
+      desk_(frame_.Handle(), frame_.Client(), bars_, tools_),
+      focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }),
+      commands_(parts_, workspace_, tools_, [this] { OnCloseAsked(); }) {
+  bench_.vbe.commandBars.DisableIdleCommands();
+  bench_.windows.toolbox->SetVisible(false);
+  Settle();
+}
+
+WorkbenchWindows::~WorkbenchWindows() = default;
+
+void WorkbenchWindows::Show() {
+  ShowWindow(frame_.Handle(), SW_SHOW);
+  SetForegroundWindow(frame_.Handle());
+  Settle();
+}
+
+void WorkbenchWindows::Open(const std::filesystem::path& path) {
+  Perform([&] { commands_.Open(path); });
+  Settle();
+}
+
+void WorkbenchWindows::TakeInput() {
+  workspace_.TakeInput();
+  tools_.TakeInput();
+}
+
+// It is called where a call from outside has ended, which nothing may throw into.
+void WorkbenchWindows::ShowChanges() {
+  try {
+    if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  } catch (...) {
+    ReportFault(frame_.Handle());
+  }
+  frame_.AskForIdle();
+}
+
+/// Opens and closes windows as the model has them, and moves the focus with its active window.
+void WorkbenchWindows::FollowWindows() {
+  windowsRevision_ = bench_.vbe.windows.Revision();
+  workspace_.FollowModel();
+  if (tools_.ReadVisibility()) desk_.Arrange();
+  focus_.FollowModel();
+}
+
+void WorkbenchWindows::Settle() {
+  if (std::exchange(isSettling_, true)) return;
+  TakeInput();
+  if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  commands_.ShowStates();
+  if (bars_.Refresh()) desk_.Arrange();
+  workspace_.Refresh();
+  tools_.Refresh();
+  ShowTitle();
+  ShowMenuBar();
+  isSettling_ = false;
+}
+
+void WorkbenchWindows::ShowTitle() {
+  const std::string title = bench_.vbe.MainWindow()->Caption();
+  if (std::exchange(title_, title) == title) return;
+  SetWindowTextW(frame_.Handle(), win32::Wide(title).c_str());
+}
+
+void WorkbenchWindows::ShowMenuBar() {
+  const auto& bar = bench_.bars.menuBar;
+  std::vector<ControlLook> looks;
+  for (const auto& control : bar->Entries()->All()) looks.push_back(LookInMenu(*control, faces_));
+  if (looks == menuBar_ || frame_.IsInMenu()) return;
+  menuBar_ = std::move(looks);
+  menus_.Clear();
+  frame_.SetMenuBar(menus_.NewMenuBar(bar->Entries()));
+}
+
+void WorkbenchWindows::GiveFocus(MemoryWindow* window) {
+  const HWND frame = frame_.Handle();
+  const bool isBehind = GetForegroundWindow() != frame;
+  if (isBehind && IsWindowVisible(frame) && IsWindowEnabled(frame)) SetForegroundWindow(frame);
+  HWND target = frame;
+  if (const MdiChild* child = window != nullptr ? workspace_.Of(*window) : nullptr) {
+    workspace_.Activate(*child);
+    target = child->FocusTarget();
+  } else if (const ToolWindow* tool = window != nullptr ? tools_.Of(*window) : nullptr) {
+    target = tool->FocusTarget();
+  }
+  SetFocus(target);
+}
+
+void WorkbenchWindows::Do(std::function<void()> action) {
+  frame_.Later([this, action = std::move(action)] { Perform(action); });
+}
+
+void WorkbenchWindows::Perform(const std::function<void()>& action) {
+  TakeInput();
+  try {
+    action();
+  } catch (...) {
+    ReportFault(frame_.Handle());
+  }
+  ShowChanges();
+}
+
+void WorkbenchWindows::RunCommand(int command) {
+  Do([this, command] {
+    const auto controls = bench_.vbe.commandBars.ControlsOf(command);
+    if (!controls.empty() && controls.front()->Details().enabled) controls.front()->Execute();
+  });
+}
+
+// The system activates the window behind, and the focus goes with it.
+void WorkbenchWindows::CloseByUser(const std::shared_ptr<MemoryWindow>& window) {
+  Do([this, window] {
+    window->Close();
+    workspace_.FollowModel();
+    const MdiChild* next = workspace_.Active();
+    if (bench_.vbe.windows.Active() == nullptr && next != nullptr) next->Model()->SetFocus();
+  });
+}
+
+void WorkbenchWindows::NoteFocus(const std::shared_ptr<MemoryWindow>& window) {
+  focus_.NoteFocus(window);
+  ShowToolboxFor(*window);
+  ShowActiveCaption(*window);
+  frame_.AskForIdle();
+}
+
+/// The system leaves the colours of the window that has the focus to the code window in front.
+void WorkbenchWindows::ShowActiveCaption(const MemoryWindow& window) {
+  const MdiChild* front = workspace_.Active();
+  if (front == nullptr) return;
+  SendMessageW(front->Handle(), WM_NCACTIVATE, front->Model().get() == &window, 0);
+}
+
+/// A designer brings the toolbox along; what the user has hidden since stays hidden.
+void WorkbenchWindows::ShowToolboxFor(const MemoryWindow& window) {
+  if (hasShownToolbox_ || bench_.ComponentOfDesigner(window) == nullptr) return;
+  hasShownToolbox_ = true;
+  bench_.windows.toolbox->SetVisible(true);
+}
+
+void WorkbenchWindows::OpenMenu(std::shared_ptr<MemoryCommandBarControls> entries, POINT place) {
+  Do([this, entries = std::move(entries), place] {
+    if (const auto action = ChooseFromMenu(menus_, entries, frame_.Handle(), place)) action();
+  });
+}
+
+void WorkbenchWindows::OnCloseAsked() {
+  Do([this] {
+    if (commands_.MayClose()) Quit();
+  });
+}
+
+void WorkbenchWindows::OnCommand(UINT command) {
+  if (auto action = menus_.ActionOf(command)) Do(std::move(action));
+}
+
+void WorkbenchWindows::OnMenuOpening(HMENU menu) {
+  TakeInput();
+  bench_.TickShownToolbars();
+  menus_.Fill(menu);
+}
+
+void WorkbenchWindows::OnMouse(UINT message, POINT place) {
+  if (!bars_.IsDragging()) return desk_.OnMouse(message, place);
+  if (message == WM_MOUSEMOVE) {
+    ClientToScreen(frame_.Handle(), &place);
+    bars_.DragTo(place);
+    if (bars_.Refresh()) desk_.Arrange();
+  } else {
+    bars_.EndDrag();
+    if (message == WM_LBUTTONUP) ReleaseCapture();
+  }
+}
+
+/// What stands at the end of a menu and comes from the screen or from the user's own toolbars.
+std::vector<FurtherEntry> WorkbenchWindows::FurtherEntries(
+    const MemoryCommandBarControls& entries) {
+  if (&entries == bench_.bars.window->Entries().get()) return WindowEntries();
+  if (&entries == bench_.bars.toolbars->Entries().get()) return ToolbarEntries();
+  return {};
+}
+
+std::vector<FurtherEntry> WorkbenchWindows::WindowEntries() {
+  std::vector<FurtherEntry> further;
+  const MdiChild* active = workspace_.Active();
+  for (const auto& window : workspace_.Windows()) {
+    if (!window->Model()->Visible()) continue;
+    further.push_back({"&" + std::to_string(further.size() + 1) + " " + window->Model()->Caption(),
+                       window.get() == active, [model = window->Model()] { model->SetFocus(); }});
+  }
+  return further;
+}
+
+std::vector<FurtherEntry> WorkbenchWindows::ToolbarEntries() {
+  std::vector<FurtherEntry> further;
+  for (const auto& bar : bench_.vbe.commandBars.All()) {
+    if (bar->IsBuiltIn() || bar->Kind() != bar_type::kToolbar) continue;
+    further.push_back(
+        {bar->LastName(), bar->Visible(), [bar] { bar->SetVisible(!bar->Visible()); }});
+  }
+  return further;
+}
+
+bool WorkbenchWindows::TakesKey(MSG& message) {
+  return commands_.TakesKey(message) || TranslateMDISysAccel(frame_.Client(), &message) != 0;
+}
+
+HWND WorkbenchWindows::NativeOf(const MemoryWindow& window) const {
+  if (const MdiChild* child = workspace_.Of(window)) return child->Handle();
+  if (const ToolWindow* tool = tools_.Of(window)) return tool->Handle();
+  return frame_.Handle();
+}
+
+std::intptr_t WorkbenchWindows::HandleOf(const MemoryWindow& window) {
+  FollowWindows();
+  return reinterpret_cast<std::intptr_t>(NativeOf(window));
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryWindow& window) {
+  const HWND native = NativeOf(window);
+  if (native == frame_.Handle()) return BoundsIn(nullptr, native);
+  const bool isChild = workspace_.Of(window) != nullptr;
+  return BoundsIn(isChild ? frame_.Client() : frame_.Handle(), native);
+}
+
+void WorkbenchWindows::SetBoundsOf(const MemoryWindow& window, const Bounds& bounds) {
+  if (tools_.Of(window) != nullptr) return;  // docked windows stay where they are
+  MoveWindow(NativeOf(window), bounds.left, bounds.top, bounds.width, bounds.height, TRUE);
+}
+
+WindowState WorkbenchWindows::StateOf(const MemoryWindow& window) {
+  const HWND native = NativeOf(window);
+  if (IsIconic(native)) return WindowState::kMinimized;
+  return IsZoomed(native) ? WindowState::kMaximized : WindowState::kNormal;
+}
+
+void WorkbenchWindows::SetStateOf(const MemoryWindow& window, WindowState state) {
+  if (MdiChild* child = workspace_.Of(window)) return child->SetState(state);
+  if (tools_.Of(window) != nullptr) return;
+  constexpr int kShown[] = {SW_RESTORE, SW_MINIMIZE, SW_MAXIMIZE};
+  ShowWindow(frame_.Handle(), kShown[static_cast<std::size_t>(state)]);
+}
+
+int WorkbenchWindows::TopLineOf(const MemoryCodePane& pane) {
+  CodeWindow* window = workspace_.Of(pane);
+  return window != nullptr ? window->Text().TopLine() : 1;
+}
+
+void WorkbenchWindows::SetTopLineOf(const MemoryCodePane& pane, int line) {
+  if (CodeWindow* window = workspace_.Of(pane)) window->Text().SetTopLine(line);
+}
+
+int WorkbenchWindows::VisibleLinesOf(const MemoryCodePane& pane) {
+  CodeWindow* window = workspace_.Of(pane);
+  return window != nullptr ? window->Text().VisibleLines() : 0;
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBar& bar) {
+  if (bars_.Refresh()) desk_.Arrange();
+  return bars_.BoundsOf(bar).value_or(Bounds{});
+}
+
+Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBarControl& control) {
+  if (bars_.Refresh()) desk_.Arrange();
+  return bars_.BoundsOf(control).value_or(Bounds{});
+}
+
+std::string WorkbenchWindows::FaceFromClipboard() {
+  const auto face = FaceOnClipboard(frame_.Handle());
+  return face ? faces_.Keep(*face) : std::string();
+}
+
+void WorkbenchWindows::FaceToClipboard(const MemoryCommandBarControl& control) {
+  if (const auto face = faces_.Of(const_cast<MemoryCommandBarControl&>(control)))
+    PutFaceOnClipboard(frame_.Handle(), *face);
+}
+
+void WorkbenchWindows::ShowPopup(MemoryCommandBar& menu) {
+  ShowChanges();
+  POINT place{};
+  GetCursorPos(&place);
+  menu.NoteOpen(true);
+  const auto action = ChooseFromMenu(menus_, menu.Entries(), frame_.Handle(), place);
+  menu.NoteOpen(false);
+  if (action) Do(action);
+}
+
+void WorkbenchWindows::Quit() { PostQuitMessage(0); }
+
+}  // namespace brimwork::bench

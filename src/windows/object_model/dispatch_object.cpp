@@ -1,0 +1,111 @@
+#include "windows/object_model/dispatch_object.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "environment/run_time_error.h"
+#include "win32/wide_text.h"
+#include "windows/object_model/automation_error.h"
+
+namespace brimwork::windows {
+namespace {
+
+using win32::ComPointer;
+using win32::Variant;
+
+constexpr std::size_t kMostArguments = 8;  // CodeModule.Find
+
+/// Arguments as Invoke wants them: the last one first. They stay the caller's.
+class ReversedArguments {
+ public:
+  explicit ReversedArguments(std::span<const Variant> arguments) {
+    std::ranges::transform(std::views::reverse(arguments), values_.begin(),
+                           [](const Variant& each) { return each.Get(); });
+    parameters_.rgvarg = values_.data();
+    parameters_.cArgs = static_cast<UINT>(arguments.size());
+  }
+
+  DISPPARAMS& Parameters() { return parameters_; }
+
+ private:
+  std::array<VARIANT, kMostArguments> values_;
+  DISPPARAMS parameters_ = {};
+};
+
+}  // namespace
+
+DispatchObject::DispatchObject(ComPointer<IDispatch> object, std::shared_ptr<Connection> connection,
+                               ObjectKind kind)
+    : object_(std::move(object)),
+      connection_(std::move(connection)),
+      names_(connection_, &connection_->NamesOf(kind)) {}
+
+DispatchObject::DispatchObject(const DispatchObject& object, std::shared_ptr<MemberNames> names)
+    : object_(object.object_), connection_(object.connection_), names_(std::move(names)) {}
+
+DispatchObject DispatchObject::Part(ObjectKind kind, std::wstring_view property) const {
+  auto part = ToObject(Get(property));
+  if (!part) {
+    throw RunTimeError(error_number::kObjectNotSet, win32::Narrow(property) + " is nothing");
+  }
+  return {std::move(part), connection_, kind};
+}
+
+void DispatchObject::Put(std::wstring_view property, const Variant& value) const {
+  ExceptionInfo exception;
+  const HRESULT status = PutAs(DISPATCH_PROPERTYPUT, property, value, exception);
+  if (FAILED(status)) throw AutomationError(status, exception, property);
+}
+
+void DispatchObject::PutReference(std::wstring_view property, const DispatchObject& value) const {
+  const Variant reference(value.object_);
+  ExceptionInfo exception;
+  const HRESULT status = PutAs(DISPATCH_PROPERTYPUTREF, property, reference, exception);
+  if (status == DISP_E_MEMBERNOTFOUND) return Put(property, reference);
+  if (FAILED(status)) throw AutomationError(status, exception, property);
+}
+
+std::uintptr_t DispatchObject::Identity() const {
+  return reinterpret_cast<std::uintptr_t>(object_.As<IUnknown>().get());
+}
+
+Variant DispatchObject::Invoke(std::wstring_view member, WORD kind,
+                               std::span<const Variant> arguments) const {
+  ReversedArguments reversed(arguments);
+  Variant result;
+  ExceptionInfo exception;
+  const HRESULT status = Try(member, kind, reversed.Parameters(), result.Receive(), exception);
+  if (FAILED(status)) throw AutomationError(status, exception, member);
+  return result;
+}
+
+HRESULT DispatchObject::PutAs(WORD kind, std::wstring_view property, const Variant& value,
+                              ExceptionInfo& exception) const {
+  VARIANT argument = value.Get();
+  DISPID newValue = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters = {&argument, &newValue, 1, 1};
+  return Try(property, kind, parameters, nullptr, exception);
+}
+
+HRESULT DispatchObject::Try(std::wstring_view member, WORD kind, DISPPARAMS& parameters,
+                            VARIANT* result, ExceptionInfo& exception) const {
+  const Patience& patience = connection_->patience;
+  HRESULT status = TryOnce(member, kind, parameters, result, exception);
+  for (const unsigned pause : patience.pauses) {
+    if (SUCCEEDED(status) || !IsTurnedAway(MeantBy(status, exception))) break;
+    patience.sleep(pause);
+    status = TryOnce(member, kind, parameters, result, exception);
+  }
+  return status;
+}
+
+HRESULT DispatchObject::TryOnce(std::wstring_view member, WORD kind, DISPPARAMS& parameters,
+                                VARIANT* result, ExceptionInfo& exception) const {
+  DISPID id = DISPID_UNKNOWN;
+  const HRESULT status = names_->Find(*object_, member, id);
+  if (FAILED(status)) return status;
+  return object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, result,
+                         exception.Receive(), nullptr);
+}
+
+}  // namespace brimwork::windows
