@@ -58,6 +58,8 @@ MakePrefix() {
   # There is no window manager on a screen in memory: windows draw their own title bars.
   wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$WINEPREFIX/wineboot.log" 2>&1
   wineserver -w
+  # Not all of Wine's own fonts are found where Debian puts them; those of title bars are not.
+  cp -n /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
   cp "$WINEPREFIX"/*.reg "$WINEPREFIX/registry.new"
   mv "$WINEPREFIX/registry.new" "$WINEPREFIX/registry"
 }
