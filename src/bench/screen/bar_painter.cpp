@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "bench/screen/native_bounds.h"
 #include "bench/screen/picture_painter.h"
 #include "environment/control.h"
 #include "win32/wide_text.h"
@@ -44,7 +45,7 @@ void PaintText(HDC context, const std::string& caption, RECT area, bool isEnable
 }
 
 void PaintEdge(HDC context, const Bounds& place, const ControlLook& look, ButtonState state) {
-  RECT edge = {place.left, place.top, place.left + place.width, place.top + place.height};
+  RECT edge = RectOf(place);
   const bool isDown = look.isPressed || state == ButtonState::kDown;
   if (look.isPressed && state == ButtonState::kFlat) {
     FillRect(context, &edge, GetSysColorBrush(COLOR_3DLIGHT));
@@ -113,7 +114,7 @@ void PaintCloseButton(HDC context, const RECT& place, bool isDown) {
 }
 
 void PaintSeparator(HDC context, const Bounds& place) {
-  RECT line = {place.left, place.top, place.left + place.width, place.top + place.height};
+  RECT line = RectOf(place);
   if (place.width < place.height) {
     line.left += place.width / 2 - 1;
     DrawEdge(context, &line, EDGE_ETCHED, BF_LEFT);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "bench/screen/native_bounds.h"
 #include "environment/command_bar.h"
 
 namespace brimwork::bench {
@@ -90,12 +91,8 @@ std::optional<Bounds> BarSet::BoundsOf(const MemoryCommandBar& bar) const {
   const BarWindow* window = FindWindowOf(bar);
   if (window == nullptr) return std::nullopt;
   const auto floating = floating_.find(&bar);
-  const bool floats = floating != floating_.end();
-  RECT area{};
-  GetWindowRect(floats ? floating->second->Handle() : window->Handle(), &area);
-  if (!floats) MapWindowPoints(nullptr, frame_, reinterpret_cast<POINT*>(&area), 2);
-  return Bounds{static_cast<int>(area.left), static_cast<int>(area.top),
-                static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+  if (floating != floating_.end()) return BoundsIn(nullptr, floating->second->Handle());
+  return BoundsIn(frame_, window->Handle());
 }
 
 std::optional<Bounds> BarSet::BoundsOf(const MemoryCommandBarControl& control) const {

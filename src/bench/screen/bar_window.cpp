@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "bench/screen/native_bounds.h"
 #include "environment/command_bar.h"
 #include "win32/wide_text.h"
 
@@ -13,10 +14,6 @@ namespace brimwork::bench {
 namespace {
 
 using namespace bar_measure;
-
-RECT RectOf(const Bounds& bounds) {
-  return {bounds.left, bounds.top, bounds.left + bounds.width, bounds.top + bounds.height};
-}
 
 bool GoesDown(int position) {
   return position == bar_position::kLeft || position == bar_position::kRight;

@@ -1,12 +1,13 @@
 #include "bench/screen/desk.h"
 
+#include "bench/screen/native_bounds.h"
+
 namespace brimwork::bench {
 
 void Desk::Arrange() {
   RECT room{};
   GetClientRect(frame_, &room);
-  const Bounds inner =
-      bars_.Arrange({0, 0, static_cast<int>(room.right), static_cast<int>(room.bottom)});
+  const Bounds inner = bars_.Arrange(BoundsOf(room));
   plan_ = PlanPanels(tools_.Shown(), sizes_, inner);
   tools_.Arrange(plan_);
   const Bounds& middle = plan_.workspace;
@@ -43,8 +44,7 @@ HCURSOR Desk::CursorAt(POINT place) const {
 
 std::optional<Gap> Desk::GapAt(POINT place) const {
   for (const auto& [gap, bounds] : plan_.gaps) {
-    const RECT area = {bounds.left, bounds.top, bounds.left + bounds.width,
-                       bounds.top + bounds.height};
+    const RECT area = RectOf(bounds);
     if (PtInRect(&area, place)) return gap;
   }
   return std::nullopt;

@@ -67,11 +67,6 @@ std::optional<TextChange> UndoHistory::Redo() {
   return done_.back();
 }
 
-void UndoHistory::Clear() {
-  done_.clear();
-  undone_.clear();
-}
-
 bool UndoHistory::Continues(const TextChange& change) const {
   if (done_.empty() || !change.removed.empty() || change.inserted.size() != 1) return false;
   const TextChange& latest = done_.back();

@@ -24,8 +24,8 @@ struct TextChange {
 /// The smallest single change that makes after of before; line ends and pairs are not cut in two.
 TextChange ChangeBetween(std::wstring_view before, std::wstring_view after);
 
-/// The user's own changes, latest last. Letters typed behind each other count as one, up to the end
-/// of a word.
+/// All changes of a text, the latest last. Letters typed behind each other count as one, up to the
+/// end of a word.
 class UndoHistory {
  public:
   void Note(TextChange change);
@@ -36,9 +36,6 @@ class UndoHistory {
 
   bool CanUndo() const { return !done_.empty(); }
   bool CanRedo() const { return !undone_.empty(); }
-
-  /// What came from elsewhere moved the text beneath the noted changes.
-  void Clear();
 
  private:
   bool Continues(const TextChange& change) const;

@@ -6,7 +6,8 @@
 
 namespace brimwork::bench {
 
-std::optional<std::filesystem::path> AskForProject(HWND owner) {
+std::optional<std::filesystem::path> AskForProject(HWND owner,
+                                                   const std::filesystem::path& folder) {
   wchar_t path[1024] = L"";
   OPENFILENAMEW question{};
   question.lStructSize = sizeof question;
@@ -16,6 +17,7 @@ std::optional<std::filesystem::path> AskForProject(HWND owner) {
       L"*.bas;*.cls;*.frm\0All Files\0*.*\0";
   question.lpstrFile = path;
   question.nMaxFile = static_cast<DWORD>(std::size(path));
+  question.lpstrInitialDir = folder.c_str();
   question.lpstrTitle = L"Open Project";
   question.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
   if (!GetOpenFileNameW(&question)) return std::nullopt;

@@ -8,7 +8,7 @@
 
 namespace brimwork::bench {
 
-/// The file that the user chose; nothing when the dialog was cancelled.
-std::optional<std::filesystem::path> AskForProject(HWND owner);
+/// The file that the user chose; nothing when the dialog was cancelled. folder: where it begins.
+std::optional<std::filesystem::path> AskForProject(HWND owner, const std::filesystem::path& folder);
 
 }  // namespace brimwork::bench

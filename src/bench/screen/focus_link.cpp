@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "bench/screen/flag_scope.h"
+
 namespace brimwork::bench {
 
 FocusLink::FocusLink(Workbench& bench, std::function<void(MemoryWindow*)> give)
@@ -15,7 +17,7 @@ FocusLink::FocusLink(Workbench& bench, std::function<void(MemoryWindow*)> give)
 void FocusLink::NoteFocus(const std::shared_ptr<MemoryWindow>& window) {
   MemoryWindows& windows = bench_.vbe.windows;
   const bool isOpen = std::ranges::find(windows.All(), window) != windows.All().end();
-  if (isGiving_ || !isOpen || windows.Active() == window) return;
+  if (isIgnoring_ || !isOpen || windows.Active() == window) return;
   const bool wasAsked = asked_->isAsked;
   windows.Activate(*window);
   asked_->isAsked = wasAsked;
@@ -31,9 +33,12 @@ void FocusLink::FollowModel() {
 }
 
 void FocusLink::Restore() {
-  const bool wasGiving = std::exchange(isGiving_, true);
-  give_(Wanted());
-  isGiving_ = wasGiving;
+  Ignoring([this] { give_(Wanted()); });
+}
+
+void FocusLink::Ignoring(const std::function<void()>& task) {
+  const FlagScope ignoring(isIgnoring_);
+  task();
 }
 
 MemoryWindow* FocusLink::Wanted() const {

@@ -18,10 +18,14 @@ class FocusLink {
   /// The focus has come to a window.
   void NoteFocus(const std::shared_ptr<MemoryWindow>& window);
 
+  /// Runs a task that may move the focus about without anybody having said so.
+  void Ignoring(const std::function<void()>& task);
+
   /// Gives the focus where the model wants it, if that was said since the last time.
   void FollowModel();
 
-  /// Gives the focus where it belongs, as when the main window comes to the front.
+  /// Gives the focus where it belongs, as when the main window comes to the front or a window that
+  /// had it is gone.
   void Restore();
 
  private:
@@ -35,7 +39,7 @@ class FocusLink {
   std::function<void(MemoryWindow*)> give_;
   std::shared_ptr<Asked> asked_;        // the model's listener may outlive this
   std::weak_ptr<MemoryWindow> latest_;  // the one that was active when this last looked
-  bool isGiving_ = false;
+  bool isIgnoring_ = false;
 };
 
 }  // namespace brimwork::bench

@@ -41,12 +41,14 @@ WindowState MdiChild::State() const {
 void MdiChild::SetState(WindowState state) {
   const HWND client = GetParent(Handle());
   const auto self = reinterpret_cast<WPARAM>(Handle());
+  const auto restore = [&] { SendMessageW(client, WM_MDIRESTORE, self, 0); };
   switch (state) {
     case WindowState::kMaximized:
       SendMessageW(client, WM_MDIMAXIMIZE, self, 0);
       break;
     case WindowState::kNormal:
-      SendMessageW(client, WM_MDIRESTORE, self, 0);
+      restore();
+      if (IsZoomed(Handle())) restore();  // it was that before it was minimized
       break;
     case WindowState::kMinimized:
       ShowWindow(Handle(), SW_MINIMIZE);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "bench/screen/flag_scope.h"
 #include "bench/screen/glyphs.h"
 #include "bench/screen/picture_painter.h"
 #include "environment/vbe.h"
@@ -85,13 +86,12 @@ ProjectTree::~ProjectTree() { ImageList_Destroy(images_); }
 void ProjectTree::Refresh() {
   if (isFilled_ && revision_ == parts_.bench.Revision()) return;
   revision_ = parts_.bench.Revision();
-  isFilling_ = true;
+  const FlagScope filling(isFilling_);
   std::string outline = Outline(parts_.bench);
   if (!isFilled_ || outline != shown_) Rebuild();
   shown_ = std::move(outline);
   isFilled_ = true;
   SelectChosen();
-  isFilling_ = false;
 }
 
 void ProjectTree::Rebuild() {

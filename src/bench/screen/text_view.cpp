@@ -5,8 +5,9 @@
 #include <string>
 #include <utility>
 
+#include "bench/screen/edit_messages.h"
+#include "bench/screen/flag_scope.h"
 #include "memory/usual_commands.h"
-#include "win32/wide_text.h"
 
 namespace brimwork::bench {
 namespace {
@@ -21,63 +22,6 @@ constexpr WPARAM kY = 25;
 constexpr WPARAM kZ = 26;
 }  // namespace control_key
 
-/// True for messages by which a user, or somebody in a user's place, works on the text.
-bool IsInput(UINT message, WPARAM wide) {
-  switch (message) {
-    case WM_MOUSEMOVE:
-      return (wide & MK_LBUTTON) != 0;
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_CHAR:
-    case WM_SYSKEYDOWN:
-    case WM_IME_CHAR:
-    case WM_IME_COMPOSITION:
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_CUT:
-    case WM_PASTE:
-    case WM_CLEAR:
-    case WM_UNDO:
-    case WM_SETTEXT:
-    case EM_UNDO:
-    case EM_SETSEL:
-    case EM_REPLACESEL:
-      return true;
-    default:
-      return false;
-  }
-}
-
-/// True for messages by which somebody looks at the text.
-bool IsLook(UINT message) {
-  switch (message) {
-    case WM_COPY:
-    case WM_GETTEXT:
-    case WM_GETTEXTLENGTH:
-    case EM_GETSEL:
-    case EM_GETLINE:
-    case EM_GETLINECOUNT:
-      return true;
-    default:
-      return false;
-  }
-}
-
-/// Sets a flag until the end of the block.
-class Doing {
- public:
-  explicit Doing(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-  Doing(const Doing&) = delete;
-  Doing& operator=(const Doing&) = delete;
-  ~Doing() { flag_ = before_; }
-
- private:
-  bool& flag_;
-  bool before_;
-};
-
 }  // namespace
 
 TextView::TextView(const ScreenParts& parts, HWND parent, std::unique_ptr<ShownText> text,
@@ -89,19 +33,19 @@ TextView::TextView(const ScreenParts& parts, HWND parent, std::unique_ptr<ShownT
       revision_(text_->Revision()) {
   constexpr DWORD kStyle = WS_VISIBLE | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_AUTOVSCROLL |
                            ES_AUTOHSCROLL | ES_NOHIDESEL | ES_WANTRETURN;
-  const Doing own(isOwnDoing_);
+  const FlagScope own(isOwnDoing_);
   Create(parent, L"EDIT", kStyle, 0, parts.fonts.Code());
   SendMessageW(Handle(), EM_SETLIMITTEXT, 0, 0);
   const int tabUnits = kTabColumns * 4;  // a column is four units wide
   SendMessageW(Handle(), EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&tabUnits));
-  shown_ = win32::Wide(text_->Text());
+  shown_ = ForControl(text_->Text());
   SetWindowTextW(Handle(), shown_.c_str());
   ShowSelection();
 }
 
 void TextView::TakeInput() {
   if (!isTouched_) return;
-  const Doing own(isOwnDoing_);
+  const FlagScope own(isOwnDoing_);
   isTouched_ = false;
   if (SendMessageW(Handle(), EM_GETMODIFY, 0, 0) != 0) TakeText();
   if (!IsStale()) TakeSelection();
@@ -113,7 +57,7 @@ void TextView::TakeText() {
   if (typed == shown_) return;
   history_.Note(ChangeBetween(shown_, typed));
   shown_ = std::move(typed);
-  text_->SetText(win32::Narrow(shown_));
+  text_->SetText(FromControl(shown_));
   revision_ = text_->Revision();
   selection_ = text_->GetSelection();
   units_ = {shown_.size() + 1, 0};  // none, so that the caret is looked at
@@ -133,28 +77,29 @@ bool TextView::IsStale() {
 
 void TextView::Refresh() {
   if (!IsStale()) return;
-  const Doing own(isOwnDoing_);
+  const FlagScope own(isOwnDoing_);
   if (text_->Revision() != revision_) ShowText();
   ShowSelection();
 }
 
 void TextView::ShowText() {
-  std::wstring text = win32::Wide(text_->Text());
+  std::wstring text = ForControl(text_->Text());
   const TextChange change = ChangeBetween(shown_, text);
-  if (!change.IsNone()) {
-    ApplyChange(Handle(), change);
-    history_.Clear();
-  }
+  if (!change.IsNone()) ApplyChange(Handle(), change);
+  history_.Note(change);
   SendMessageW(Handle(), EM_SETMODIFY, FALSE, 0);
   shown_ = std::move(text);
   revision_ = text_->Revision();
 }
 
+// What is on the screen moves only when the caret does; some systems scroll to every selection.
 void TextView::ShowSelection() {
+  const int top = FirstVisibleLine(Handle());
   const bool hasMoved = text_->GetSelection() != selection_;
   selection_ = text_->GetSelection();
   units_ = UnitsOf(Handle(), shown_, selection_);
   SelectUnits(Handle(), units_);
+  SetFirstVisibleLine(Handle(), top);
   if (hasMoved) SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
 }
 
@@ -200,14 +145,14 @@ void TextView::TakeBack(const std::optional<TextChange>& change) {
     MessageBeep(MB_OK);
     return;
   }
-  const Doing own(isOwnDoing_);
+  const FlagScope own(isOwnDoing_);
   ApplyChange(Handle(), *change);
   SendMessageW(Handle(), EM_SETMODIFY, FALSE, 0);
   const std::size_t caret = change->start + change->inserted.size();
   SelectUnits(Handle(), {caret, caret});
   SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
   shown_.replace(change->start, change->removed.size(), change->inserted);
-  text_->SetText(win32::Narrow(shown_));
+  text_->SetText(FromControl(shown_));
   revision_ = text_->Revision();
   TakeSelection();
 }

@@ -5,6 +5,7 @@
 #include "bench/screen/command_keys.h"
 #include "bench/screen/file_dialogs.h"
 #include "memory/usual_commands.h"
+#include "win32/wide_text.h"
 
 namespace brimwork::bench {
 namespace {
@@ -107,7 +108,7 @@ void UserCommands::Open(const std::filesystem::path& path) {
 }
 
 void UserCommands::OpenProject() {
-  const auto path = AskForProject(parts_.host.Owner());
+  const auto path = AskForProject(parts_.host.Owner(), win32::Wide(parts_.bench.lastUsedPath));
   if (path && MayClose()) Open(*path);
 }
 

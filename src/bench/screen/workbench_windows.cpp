@@ -6,30 +6,22 @@
 #include <utility>
 
 #include "bench/screen/faults.h"
+#include "bench/screen/flag_scope.h"
+#include "bench/screen/further_entries.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::bench {
-namespace {
-
-Bounds BoundsIn(HWND parent, HWND window) {
-  RECT area{};
-  GetWindowRect(window, &area);
-  if (parent != nullptr) MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
-  return {static_cast<int>(area.left), static_cast<int>(area.top),
-          static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
-}
-
-}  // namespace
-
 WorkbenchWindows::WorkbenchWindows(Workbench& bench)
     : bench_(bench),
       frame_(*this),
       parts_{bench_, *this, fonts_, faces_},
-      menus_(faces_, [this](const auto& entries) { return FurtherEntries(entries); }),
+      menus_(faces_,
+             [this](const auto& entries) { return FurtherEntriesOf(entries, bench_, workspace_); }),
       bars_(parts_, frame_.Handle()),
       tools_(parts_, frame_.Handle()),
       workspace_(parts_, frame_.Client()),
       desk_(frame_.Handle(), frame_.Client(), bars_, tools_),
+      places_(bench_, frame_, workspace_, tools_),
       focus_(bench_, [this](MemoryWindow* window) { GiveFocus(window); }),
       commands_(parts_, workspace_, tools_, [this] { OnCloseAsked(); }) {
   bench_.vbe.commandBars.DisableIdleCommands();
@@ -58,7 +50,7 @@ void WorkbenchWindows::TakeInput() {
 // It is called where a call from outside has ended, which nothing may throw into.
 void WorkbenchWindows::ShowChanges() {
   try {
-    if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+    FollowWindows();
   } catch (...) {
     ReportFault(frame_.Handle());
   }
@@ -67,23 +59,41 @@ void WorkbenchWindows::ShowChanges() {
 
 /// Opens and closes windows as the model has them, and moves the focus with its active window.
 void WorkbenchWindows::FollowWindows() {
+  if (windowsRevision_ == bench_.vbe.windows.Revision()) return;
   windowsRevision_ = bench_.vbe.windows.Revision();
-  workspace_.FollowModel();
-  if (tools_.ReadVisibility()) desk_.Arrange();
+  focus_.Ignoring([this] {
+    workspace_.FollowModel();
+    if (tools_.ReadVisibility()) desk_.Arrange();
+  });
   focus_.FollowModel();
+  RepairFocus();
+}
+
+/// The system moves the focus when windows come and go.
+void WorkbenchWindows::RepairFocus() {
+  if (GetActiveWindow() != frame_.Handle()) return;
+  const HWND focused = GetFocus();
+  const auto active = bench_.vbe.windows.Active();
+  const HWND wanted = active != nullptr ? places_.NativeOf(*active) : frame_.Handle();
+  const bool isThere = focused == wanted || (wanted != frame_.Handle() && IsChild(wanted, focused));
+  if (!isThere) focus_.Restore();
 }
 
 void WorkbenchWindows::Settle() {
-  if (std::exchange(isSettling_, true)) return;
+  if (isSettling_) return;
+  const FlagScope settling(isSettling_);
   TakeInput();
-  if (windowsRevision_ != bench_.vbe.windows.Revision()) FollowWindows();
+  FollowWindows();
   commands_.ShowStates();
-  if (bars_.Refresh()) desk_.Arrange();
+  ArrangeBars();
   workspace_.Refresh();
   tools_.Refresh();
   ShowTitle();
   ShowMenuBar();
-  isSettling_ = false;
+}
+
+void WorkbenchWindows::ArrangeBars() {
+  if (bars_.Refresh()) desk_.Arrange();
 }
 
 void WorkbenchWindows::ShowTitle() {
@@ -106,14 +116,9 @@ void WorkbenchWindows::GiveFocus(MemoryWindow* window) {
   const HWND frame = frame_.Handle();
   const bool isBehind = GetForegroundWindow() != frame;
   if (isBehind && IsWindowVisible(frame) && IsWindowEnabled(frame)) SetForegroundWindow(frame);
-  HWND target = frame;
-  if (const MdiChild* child = window != nullptr ? workspace_.Of(*window) : nullptr) {
-    workspace_.Activate(*child);
-    target = child->FocusTarget();
-  } else if (const ToolWindow* tool = window != nullptr ? tools_.Of(*window) : nullptr) {
-    target = tool->FocusTarget();
-  }
-  SetFocus(target);
+  const MdiChild* child = window != nullptr ? workspace_.Of(*window) : nullptr;
+  if (child != nullptr) workspace_.Activate(*child);
+  SetFocus(places_.FocusTargetOf(window));
 }
 
 void WorkbenchWindows::Do(std::function<void()> action) {
@@ -195,80 +200,40 @@ void WorkbenchWindows::OnMouse(UINT message, POINT place) {
   if (message == WM_MOUSEMOVE) {
     ClientToScreen(frame_.Handle(), &place);
     bars_.DragTo(place);
-    if (bars_.Refresh()) desk_.Arrange();
+    ArrangeBars();
   } else {
     bars_.EndDrag();
     if (message == WM_LBUTTONUP) ReleaseCapture();
   }
 }
 
-/// What stands at the end of a menu and comes from the screen or from the user's own toolbars.
-std::vector<FurtherEntry> WorkbenchWindows::FurtherEntries(
-    const MemoryCommandBarControls& entries) {
-  if (&entries == bench_.bars.window->Entries().get()) return WindowEntries();
-  if (&entries == bench_.bars.toolbars->Entries().get()) return ToolbarEntries();
-  return {};
-}
-
-std::vector<FurtherEntry> WorkbenchWindows::WindowEntries() {
-  std::vector<FurtherEntry> further;
-  const MdiChild* active = workspace_.Active();
-  for (const auto& window : workspace_.Windows()) {
-    if (!window->Model()->Visible()) continue;
-    further.push_back({"&" + std::to_string(further.size() + 1) + " " + window->Model()->Caption(),
-                       window.get() == active, [model = window->Model()] { model->SetFocus(); }});
-  }
-  return further;
-}
-
-std::vector<FurtherEntry> WorkbenchWindows::ToolbarEntries() {
-  std::vector<FurtherEntry> further;
-  for (const auto& bar : bench_.vbe.commandBars.All()) {
-    if (bar->IsBuiltIn() || bar->Kind() != bar_type::kToolbar) continue;
-    further.push_back(
-        {bar->LastName(), bar->Visible(), [bar] { bar->SetVisible(!bar->Visible()); }});
-  }
-  return further;
-}
-
 bool WorkbenchWindows::TakesKey(MSG& message) {
   return commands_.TakesKey(message) || TranslateMDISysAccel(frame_.Client(), &message) != 0;
 }
 
-HWND WorkbenchWindows::NativeOf(const MemoryWindow& window) const {
-  if (const MdiChild* child = workspace_.Of(window)) return child->Handle();
-  if (const ToolWindow* tool = tools_.Of(window)) return tool->Handle();
-  return frame_.Handle();
-}
-
 std::intptr_t WorkbenchWindows::HandleOf(const MemoryWindow& window) {
   FollowWindows();
-  return reinterpret_cast<std::intptr_t>(NativeOf(window));
+  return reinterpret_cast<std::intptr_t>(places_.NativeOf(window));
 }
 
 Bounds WorkbenchWindows::BoundsOf(const MemoryWindow& window) {
-  const HWND native = NativeOf(window);
-  if (native == frame_.Handle()) return BoundsIn(nullptr, native);
-  const bool isChild = workspace_.Of(window) != nullptr;
-  return BoundsIn(isChild ? frame_.Client() : frame_.Handle(), native);
+  FollowWindows();
+  return places_.BoundsOf(window);
 }
 
 void WorkbenchWindows::SetBoundsOf(const MemoryWindow& window, const Bounds& bounds) {
-  if (tools_.Of(window) != nullptr) return;  // docked windows stay where they are
-  MoveWindow(NativeOf(window), bounds.left, bounds.top, bounds.width, bounds.height, TRUE);
+  FollowWindows();
+  places_.SetBoundsOf(window, bounds);
 }
 
 WindowState WorkbenchWindows::StateOf(const MemoryWindow& window) {
-  const HWND native = NativeOf(window);
-  if (IsIconic(native)) return WindowState::kMinimized;
-  return IsZoomed(native) ? WindowState::kMaximized : WindowState::kNormal;
+  FollowWindows();
+  return places_.StateOf(window);
 }
 
 void WorkbenchWindows::SetStateOf(const MemoryWindow& window, WindowState state) {
-  if (MdiChild* child = workspace_.Of(window)) return child->SetState(state);
-  if (tools_.Of(window) != nullptr) return;
-  constexpr int kShown[] = {SW_RESTORE, SW_MINIMIZE, SW_MAXIMIZE};
-  ShowWindow(frame_.Handle(), kShown[static_cast<std::size_t>(state)]);
+  FollowWindows();
+  places_.SetStateOf(window, state);
 }
 
 int WorkbenchWindows::TopLineOf(const MemoryCodePane& pane) {
@@ -286,12 +251,12 @@ int WorkbenchWindows::VisibleLinesOf(const MemoryCodePane& pane) {
 }
 
 Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBar& bar) {
-  if (bars_.Refresh()) desk_.Arrange();
+  ArrangeBars();
   return bars_.BoundsOf(bar).value_or(Bounds{});
 }
 
 Bounds WorkbenchWindows::BoundsOf(const MemoryCommandBarControl& control) {
-  if (bars_.Refresh()) desk_.Arrange();
+  ArrangeBars();
   return bars_.BoundsOf(control).value_or(Bounds{});
 }
 

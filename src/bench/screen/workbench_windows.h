@@ -19,6 +19,7 @@
 #include "bench/screen/screen_host.h"
 #include "bench/screen/tool_set.h"
 #include "bench/screen/user_commands.h"
+#include "bench/screen/window_places.h"
 #include "bench/screen/workspace.h"
 
 namespace brimwork::bench {
@@ -85,16 +86,14 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   HCURSOR CursorAt(POINT place) override { return desk_.CursorAt(place); }
 
   void FollowWindows();
+  void RepairFocus();
+  void ArrangeBars();
   void ShowActiveCaption(const MemoryWindow& window);
   void ShowToolboxFor(const MemoryWindow& window);
   void ShowTitle();
   void ShowMenuBar();
   void GiveFocus(MemoryWindow* window);
   void Perform(const std::function<void()>& action);
-  HWND NativeOf(const MemoryWindow& window) const;
-  std::vector<FurtherEntry> FurtherEntries(const MemoryCommandBarControls& entries);
-  std::vector<FurtherEntry> WindowEntries();
-  std::vector<FurtherEntry> ToolbarEntries();
 
   Workbench& bench_;
   Fonts fonts_;
@@ -106,6 +105,7 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   ToolSet tools_;
   Workspace workspace_;
   Desk desk_;
+  WindowPlaces places_;
   FocusLink focus_;
   UserCommands commands_;
 

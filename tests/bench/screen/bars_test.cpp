@@ -295,6 +295,17 @@ TEST_F(MenusOnScreen, ExecuteWhatIsChosen) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(MenusOnScreen, ExecuteNothingThatIsGone) {
+  auto control = AddControl(*bench.bars.addIns->Entries(), "&Mine");
+  int clicks = 0;
+  control->action = [&] { ++clicks; };
+  const HMENU menu = Menu("&Add-Ins");
+  control->Delete();
+  control.reset();
+  Choose(menu, GetMenuItemCount(menu) - 1);
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(MenusOnScreen, OpenPopupsWithinMenus) {
   const auto popup = AddControl(*bench.bars.addIns->Entries(), "&More", control_type::kPopup);
   AddControl(*popup->Entries(), "&Inner");

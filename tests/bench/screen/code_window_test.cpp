@@ -141,14 +141,24 @@ TEST_F(CodeWindows, TakeTypingBackLevelByLevel) {
   EXPECT_NE(ModuleText(), before);
 }
 
-TEST_F(CodeWindows, TakeNothingBackThatAnAddInWrote) {
+TEST_F(CodeWindows, TakeBackWhatAnAddInWrote) {
   Select(0, 0);
   Type(edit, "a");
   ModuleText();
   module->Code()->ReplaceLine(1, "written");
   Show();
   Type(edit, "\x1A");
-  EXPECT_EQ(ModuleText().substr(0, 7), "written");
+  EXPECT_EQ(ModuleText().substr(0, 10), "aSub One()");
+  Type(edit, "\x1A");
+  EXPECT_EQ(ModuleText().substr(0, 9), "Sub One()");
+}
+
+TEST_F(CodeWindows, KeepCharactersThatNoControlCanHold) {
+  module->Code()->ReplaceLine(2, std::string_view("a\0b", 3));
+  Show();
+  Select(0, 0);
+  Type(edit, "x");
+  EXPECT_EQ(ModuleText().substr(0, 16), std::string_view("xSub One()\r\na\0b\r", 16));
 }
 
 TEST_F(CodeWindows, FillUpToTheNextColumnWithTab) {
@@ -175,6 +185,16 @@ TEST_F(CodeWindows, ScrollToTheLineThatIsAskedFor) {
   EXPECT_LT(visible, 100);
   windows->SetTopLineOf(pane, 1);
   EXPECT_EQ(windows->TopLineOf(pane), 1);
+}
+
+TEST_F(CodeWindows, StayWhereTheyAreScrolledWhenTheModuleChanges) {
+  std::string lines;
+  for (int line = 0; line < 200; ++line) lines += "' line\r\n";
+  module->Code()->InsertLines(1, lines);
+  windows->SetTopLineOf(pane, 50);
+  module->Code()->ReplaceLine(60, "' other");
+  Show();
+  EXPECT_EQ(windows->TopLineOf(pane), 50);
 }
 
 TEST_F(CodeWindows, TakeManyChangesAtTheCostOfOne) {

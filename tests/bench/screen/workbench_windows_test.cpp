@@ -112,11 +112,50 @@ TEST_F(WorkbenchOnScreen, MakesActiveWhatTheUserGivesTheFocus) {
   }
 }
 
+TEST_F(WorkbenchOnScreen, LeavesNoWindowActiveWhenTheModelClosesTheActiveOne) {
+  OpenModule();
+  const auto second = bench.PaneOf(form)->ContainingWindow();
+  Show();
+  second->Close();
+  Show();
+  EXPECT_EQ(bench.vbe.ActiveWindow(), nullptr);
+  EXPECT_EQ(GetFocus(), windows->Frame());
+}
+
 TEST_F(WorkbenchOnScreen, GivesTheFocusBackWhenTheMainWindowGetsIt) {
   const auto code = OpenModule().ContainingWindow();
   SetFocus(nullptr);
   SetFocus(windows->Frame());
   EXPECT_EQ(GetFocus(), EditIn(code));
+}
+
+TEST_F(WorkbenchOnScreen, LeavesTheFocusWithAListThatTheUserOpened) {
+  OpenModule();
+  const auto code = bench.vbe.ActiveWindow();
+  bench.windows.immediate->SetFocus();
+  Show();
+  const HWND list = FindWindowExW(NativeOf(code), nullptr, L"COMBOBOX", nullptr);
+  SetFocus(list);
+  EXPECT_EQ(bench.vbe.ActiveWindow(), code);
+  Show();
+  EXPECT_EQ(GetFocus(), list);
+}
+
+TEST_F(WorkbenchOnScreen, LeavesTheFocusWhereItIsWhenAnotherWindowOpensUnasked) {
+  OpenModule();
+  bench.windows.immediate->SetFocus();
+  Show();
+  bench.vbe.windows.Add("Designer", window_type::kDesigner);
+  Show();
+  EXPECT_EQ(bench.vbe.ActiveWindow(), bench.windows.immediate);
+  EXPECT_EQ(GetFocus(), EditIn(bench.windows.immediate));
+}
+
+TEST_F(WorkbenchOnScreen, KnowsNoNativeWindowForAClosedOne) {
+  const auto window = std::static_pointer_cast<MemoryWindow>(OpenModule().ContainingWindow());
+  window->Close();
+  EXPECT_EQ(windows->HandleOf(*window), 0);
+  EXPECT_EQ(windows->BoundsOf(*window), Bounds{});
 }
 
 TEST_F(WorkbenchOnScreen, KeepsTheImmediateWindowsTextOnBothSides) {
@@ -142,6 +181,16 @@ TEST_F(WorkbenchOnScreen, CarriesTheImmediateWindowsSelection) {
   SelectUnits(edit, {4, 6});
   windows->TakeInput();
   EXPECT_EQ(bench.windows.immediateText->SelectedText(), "cd");
+}
+
+TEST_F(WorkbenchOnScreen, MaximizesAndMinimizesCodeWindows) {
+  const auto window = std::static_pointer_cast<MemoryWindow>(OpenModule().ContainingWindow());
+  EXPECT_EQ(windows->StateOf(*window), WindowState::kNormal);
+  for (const auto state :
+       {WindowState::kMaximized, WindowState::kMinimized, WindowState::kNormal}) {
+    windows->SetStateOf(*window, state);
+    EXPECT_EQ(windows->StateOf(*window), state);
+  }
 }
 
 TEST_F(WorkbenchOnScreen, MovesCodeWindows) {
