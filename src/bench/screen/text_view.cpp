@@ -205,10 +205,19 @@ LRESULT TextView::OnMessage(UINT message, WPARAM wide, LPARAM longer) {
     case WM_SETFOCUS:
       host_.NoteFocus(window_);
       break;
+    case WM_SETTEXT:
+      return SetTextFromOutside(wide, longer);
     default:
       break;
   }
   return Default(message, wide, longer);
+}
+
+/// To the control, a text that is set is no change of the user's.
+LRESULT TextView::SetTextFromOutside(WPARAM wide, LPARAM longer) {
+  const LRESULT result = Default(WM_SETTEXT, wide, longer);
+  if (!isOwnDoing_) SendMessageW(Handle(), EM_SETMODIFY, TRUE, 0);
+  return result;
 }
 
 void TextView::PrepareForInput() {

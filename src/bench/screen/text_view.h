@@ -55,6 +55,7 @@ class TextView : public SubclassedControl {
  private:
   bool IsStale();
   void PrepareForInput();
+  LRESULT SetTextFromOutside(WPARAM wide, LPARAM longer);
   bool AnswerKey(WPARAM character);
   void TypeTab();
   void OpenMenu(LPARAM place);

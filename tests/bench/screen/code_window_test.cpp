@@ -161,6 +161,11 @@ TEST_F(CodeWindows, KeepCharactersThatNoControlCanHold) {
   EXPECT_EQ(ModuleText().substr(0, 16), std::string_view("xSub One()\r\na\0b\r", 16));
 }
 
+TEST_F(CodeWindows, TakeATextThatAnotherProgramSets) {
+  SetWindowTextW(edit, L"' set");
+  EXPECT_EQ(ModuleText(), "' set");
+}
+
 TEST_F(CodeWindows, FillUpToTheNextColumnWithTab) {
   Select(1, 1);
   Type(edit, "\t");
