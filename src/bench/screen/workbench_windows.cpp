@@ -59,14 +59,16 @@ void WorkbenchWindows::ShowChanges() {
 
 /// Opens and closes windows as the model has them, and moves the focus with its active window.
 void WorkbenchWindows::FollowWindows() {
-  if (windowsRevision_ == bench_.vbe.windows.Revision()) return;
-  windowsRevision_ = bench_.vbe.windows.Revision();
-  focus_.Ignoring([this] {
-    workspace_.FollowModel();
-    if (tools_.ReadVisibility()) desk_.Arrange();
-  });
+  const auto revision = bench_.vbe.windows.Revision();
+  const bool areOthers = std::exchange(windowsRevision_, revision) != revision;
+  if (areOthers) {
+    focus_.Ignoring([this] {
+      workspace_.FollowModel();
+      if (tools_.ReadVisibility()) desk_.Arrange();
+    });
+  }
   focus_.FollowModel();
-  RepairFocus();
+  if (areOthers) RepairFocus();
 }
 
 /// The system moves the focus when windows come and go.
