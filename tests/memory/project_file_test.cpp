@@ -32,9 +32,7 @@ class ProjectFile : public testing::Test {
     WriteBytes(path, bytes);
     return In(name);
   }
-  std::string In(const std::string& name) {
-    return TextOf((folder_ / name).make_preferred());
-  }
+  std::string In(const std::string& name) { return TextOf((folder_ / name).make_preferred()); }
 
   /// The only file that a project in the folder "p" lists.
   ListedFile Listed(const std::string& line) {
@@ -94,8 +92,9 @@ TEST_F(ProjectFile, LeavesTheSectionsOfOtherToolsAlone) {
 TEST_F(ProjectFile, FindsPathsWithBackslashesSpacesAndAnyLetterCase) {
   Write("p/Sub Folder/Mod Größe.BAS");
   EXPECT_THAT(Listed("Module=m; sub folder\\MOD GR\xD6\xDF"
-                   "E.bas")
-                .path, IsFile(In("p/Sub Folder/Mod Größe.BAS")));
+                     "E.bas")
+                  .path,
+              IsFile(In("p/Sub Folder/Mod Größe.BAS")));
   EXPECT_EQ(Listed("Module = m ;  \"Sub Folder\\Mod Gr\xF6\xDF"
                    "e.BAS\"")
                 .path,
@@ -153,6 +152,16 @@ TEST_F(ProjectFile, CanBeInAnotherEncoding) {
   EXPECT_EQ(ReadProject(project, "CP932").modules[0].path, In("p/表.bas"));
   const std::string utf8 = Write("p/b.vbp", "\xEF\xBB\xBFModule=m; \xE8\xA1\xA8.bas\r\n");
   EXPECT_EQ(ReadProject(utf8).modules[0].path, In("p/表.bas"));
+}
+
+TEST_F(ProjectFile, FindsNamesOfAnyAlphabet) {
+  const std::string module = Write("Заказ/€ модуль.bas");
+  const std::string project =
+      Write("Заказ/Größe 表.vbp", "\xEF\xBB\xBFModule=m; € модуль.bas\r\n");
+  EXPECT_EQ(ReadProject(project).modules[0].path, module);
+  EXPECT_EQ(ReadProject(project).name, "Größe 表");
+  EXPECT_EQ(ProjectNameFor(module), "Größe 表");
+  EXPECT_THAT(FindSourceFiles(In("Заказ"), [](const SourceError&) {}), ElementsAre(module));
 }
 
 TEST_F(ProjectFile, TellsWhatItCannotRead) {

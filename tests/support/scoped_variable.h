@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "memory/utf8_path.h"
+
 namespace brimwork {
 
 class ScopedVariable {
@@ -21,7 +23,8 @@ class ScopedVariable {
  private:
   void Set(const std::optional<std::string>& value) {
 #ifdef _WIN32
-    ::_putenv_s(name_, value.value_or("").c_str());  // there no variable is empty
+    // There no variable is empty.
+    ::_wputenv_s(PathOf(name_).c_str(), PathOf(value.value_or("")).c_str());
 #else
     if (value)
       ::setenv(name_, value->c_str(), 1);

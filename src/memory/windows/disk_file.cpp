@@ -27,25 +27,6 @@ void RequireRegularFile(const OpenFile& file, const std::string& path, const std
   }
 }
 
-/// size bytes, or fewer when the file has become shorter; one byte more when it has become longer.
-std::string ReadBytes(const OpenFile& file, std::uint64_t size, const std::string& path) {
-  if (size >= std::string().max_size()) throw SourceError(path, "the file is too large");
-  std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
-  std::size_t have = 0;
-  while (have < bytes.size()) {
-    constexpr std::size_t kMostAtOnce = 1024 * 1024 * 1024;
-    DWORD count = 0;
-    const auto wanted = static_cast<DWORD>(std::min(bytes.size() - have, kMostAtOnce));
-    if (!ReadFile(file.Handle(), bytes.data() + have, wanted, &count, nullptr)) {
-      windows::ThrowSystemError(path, "read");
-    }
-    if (count == 0) break;
-    have += count;
-  }
-  bytes.resize(have);
-  return bytes;
-}
-
 /// The file behind a path's links.
 std::string BehindLinks(const std::string& path) {
   const OpenFile file = windows::OpenExisting(path, FILE_READ_ATTRIBUTES);
@@ -81,7 +62,7 @@ void CopyContent(const std::string& source, const std::string& target, const std
   const OpenFile from = windows::OpenExisting(source, GENERIC_READ);
   const OpenFile to = windows::OpenExisting(target, GENERIC_WRITE);
   const FileSnapshot snapshot = windows::SnapshotOf(windows::InformationOf(from, source));
-  windows::Write(to, ReadBytes(from, snapshot.size, source), path);
+  windows::Write(to, windows::ReadBytes(from, snapshot.size, source), path);
   if (!SetEndOfFile(to.Handle())) windows::ThrowSystemError(path, "truncate");
   windows::Flush(to, path);
 }
@@ -115,7 +96,7 @@ FileContent ReadWholeFile(const std::string& path) {
   const OpenFile file = windows::OpenExisting(path, GENERIC_READ);
   RequireRegularFile(file, path, "read");
   const FileSnapshot before = windows::SnapshotOf(windows::InformationOf(file, path));
-  FileContent content{ReadBytes(file, before.size, path), before};
+  FileContent content{windows::ReadBytes(file, before.size, path), before};
   const FileSnapshot after = windows::SnapshotOf(windows::InformationOf(file, path));
   if (content.bytes.size() == before.size && after == before) return content;
   throw SourceError(
@@ -125,7 +106,7 @@ FileContent ReadWholeFile(const std::string& path) {
 std::optional<FileSnapshot> LookAtFile(const std::string& path) {
   if (GetFileAttributesW(windows::Wide(path).c_str()) == INVALID_FILE_ATTRIBUTES) {
     const DWORD error = GetLastError();
-    if (error == ERROR_FILE_NOT_FOUND) return std::nullopt;
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return std::nullopt;
     windows::ThrowSystemError(path, "cannot look at the file");
   }
   const OpenFile file = windows::OpenExisting(path, FILE_READ_ATTRIBUTES);

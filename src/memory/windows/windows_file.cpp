@@ -5,10 +5,20 @@
 #include <utility>
 
 #include "environment/text.h"
-#include "memory/source_error.h"
 
 namespace brimwork::windows {
 namespace {
+
+std::string ProblemOf(const std::string& call, DWORD code) {
+  switch (code) {
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_UNABLE_TO_REMOVE_REPLACED:
+      return "another program has the file open; close it there and try again";
+    default:
+      return call + ": " + SystemWords(code);
+  }
+}
 
 std::pair<std::string, OpenFile> MakeTemporaryFile(const std::string& folder) {
   const std::string own = folder + "\\.brimwork-" + std::to_string(GetCurrentProcessId()) + "-";
@@ -26,8 +36,11 @@ std::pair<std::string, OpenFile> MakeTemporaryFile(const std::string& folder) {
 
 }  // namespace
 
+SystemError::SystemError(const std::string& path, const std::string& call, DWORD code)
+    : SourceError(path, ProblemOf(call, code)), code_(code) {}
+
 void ThrowSystemError(const std::string& path, const std::string& call) {
-  throw SourceError(path, call + ": " + SystemWords(GetLastError()));
+  throw SystemError(path, call, GetLastError());
 }
 
 void OpenFile::Close() {
@@ -59,6 +72,24 @@ FileSnapshot SnapshotOf(const BY_HANDLE_FILE_INFORMATION& information) {
           joined(information.nFileSizeHigh, information.nFileSizeLow),
           static_cast<std::int64_t>(joined(modified.dwHighDateTime, modified.dwLowDateTime)) *
               kNanosecondsPerTick};
+}
+
+std::string ReadBytes(const OpenFile& file, std::uint64_t size, const std::string& path) {
+  if (size >= std::string().max_size()) throw SourceError(path, "the file is too large");
+  std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
+  std::size_t have = 0;
+  while (have < bytes.size()) {
+    constexpr std::size_t kMostAtOnce = 1024 * 1024 * 1024;
+    DWORD count = 0;
+    const auto wanted = static_cast<DWORD>(std::min(bytes.size() - have, kMostAtOnce));
+    if (!ReadFile(file.Handle(), bytes.data() + have, wanted, &count, nullptr)) {
+      ThrowSystemError(path, "read");
+    }
+    if (count == 0) break;
+    have += count;
+  }
+  bytes.resize(have);
+  return bytes;
 }
 
 void Write(const OpenFile& file, std::string_view bytes, const std::string& path) {
@@ -100,6 +131,14 @@ void TemporaryFile::Replace(const std::string& target) {
     ThrowSystemError(target, "replace");
   }
   path_.clear();
+}
+
+DWORD TemporaryFile::MoveOver(const std::string& target) {
+  file_.Close();
+  constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (!MoveFileExW(Wide(path_).c_str(), Wide(target).c_str(), kFlags)) return GetLastError();
+  path_.clear();
+  return ERROR_SUCCESS;
 }
 
 bool TemporaryFile::MoveToFree(const std::string& target) {

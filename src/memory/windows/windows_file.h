@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "memory/disk_file.h"
+#include "memory/source_error.h"
 #include "win32/wide_text.h"
 
 namespace brimwork::windows {
@@ -16,7 +17,18 @@ using win32::Narrow;
 using win32::SystemWords;
 using win32::Wide;
 
-/// Throws SourceError "path: call: the system's words" for the last error.
+/// A call of the system that failed: "path: call: the system's words", or that another program is
+/// in the way.
+class SystemError : public SourceError {
+ public:
+  SystemError(const std::string& path, const std::string& call, DWORD code);
+  DWORD Code() const { return code_; }
+
+ private:
+  DWORD code_;
+};
+
+/// Throws SystemError for the last error.
 [[noreturn]] void ThrowSystemError(const std::string& path, const std::string& call);
 
 class OpenFile {
@@ -45,6 +57,10 @@ OpenFile OpenExisting(const std::string& path, DWORD access);
 BY_HANDLE_FILE_INFORMATION InformationOf(const OpenFile& file, const std::string& path);
 FileSnapshot SnapshotOf(const BY_HANDLE_FILE_INFORMATION& information);
 
+/// size bytes, or fewer when the file has become shorter; one byte more when it has become longer.
+/// Throws SourceError, naming path, when they cannot be read.
+std::string ReadBytes(const OpenFile& file, std::uint64_t size, const std::string& path);
+
 /// Throws SourceError, naming path, when a byte cannot be written.
 void Write(const OpenFile& file, std::string_view bytes, const std::string& path);
 
@@ -68,8 +84,12 @@ class TemporaryFile {
   void Close() { file_.Close(); }
   const std::string& Path() const { return path_; }
 
-  /// Replaces target, which is in the same folder, in one step. Its attributes stay.
+  /// Replaces target, which is in the same folder. Its attributes stay.
   void Replace(const std::string& target);
+
+  /// Gives it the name target in one step, whether or not something has that name. Returns the
+  /// system's error; both are as they were then.
+  DWORD MoveOver(const std::string& target);
 
   /// Gives it the name target; false, and target is as it was, when something has that name.
   bool MoveToFree(const std::string& target);

@@ -8,58 +8,20 @@
 
 #include <csignal>
 #include <filesystem>
-#include <functional>
 
 #include "memory/disk_file.h"
-#include "memory/source_error.h"
+#include "support/disk_file_fixture.h"
 #include "support/posix/refused_calls.h"
-#include "support/temporary_folder.h"
 
 namespace brimwork {
 namespace disk_file_create_test {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
-
-std::string ErrorOf(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const SourceError& error) {
-    return error.what();
-  }
-  return "no error";
-}
-
-FileComposer Writing(std::string bytes) {
-  return [bytes = std::move(bytes)](const ByteSink& sink) { sink(bytes); };
-}
 
 constexpr const char* kTaken = ": there is a file of that name by now; it was left as it is";
 
-class NewFile : public testing::Test {
- protected:
-  std::string In(const std::string& name) { return (folder_ / name).string(); }
-
-  std::vector<std::string> Names() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_.Path()))
-      names.push_back(entry.path().filename().string());
-    return names;
-  }
-
-  TemporaryFolder folder_;
-};
-
-TEST_F(NewFile, HoldsTheComposedBytes) {
-  CreateWholeFile(In("a.txt"), [](const ByteSink& sink) {
-    sink("new ");
-    sink("bytes");
-  });
-  EXPECT_EQ(ReadBytes(In("a.txt")), "new bytes");
-  EXPECT_THAT(Names(), ElementsAre("a.txt"));
-}
+class NewFile : public DiskFileFixture {};
 
 TEST_F(NewFile, HasThePermissionsThatTheUserGivesNewFiles) {
   const mode_t before = umask(0027);
@@ -70,48 +32,10 @@ TEST_F(NewFile, HasThePermissionsThatTheUserGivesNewFiles) {
   EXPECT_EQ(status.st_mode & 07777, 0640u);
 }
 
-TEST_F(NewFile, MayStandInTheWorkingFolder) {
-  const fs::path before = fs::current_path();
-  fs::current_path(folder_.Path());
-  CreateWholeFile("a.txt", Writing("a"));
-  fs::current_path(before);
-  EXPECT_EQ(ReadBytes(In("a.txt")), "a");
-}
-
-TEST_F(NewFile, NeverTakesThePlaceOfAnother) {
-  WriteBytes(In("a.txt"), "old");
-  EXPECT_EQ(ErrorOf([&] { CreateWholeFile(In("a.txt"), Writing("new")); }), In("a.txt") + kTaken);
-  EXPECT_EQ(ReadBytes(In("a.txt")), "old");
-  EXPECT_THAT(Names(), ElementsAre("a.txt"));
-}
-
 TEST_F(NewFile, NeverTakesThePlaceOfALinkToNothing) {
   fs::create_symlink("gone.txt", folder_ / "a.txt");
   EXPECT_EQ(ErrorOf([&] { CreateWholeFile(In("a.txt"), Writing("new")); }), In("a.txt") + kTaken);
   EXPECT_THAT(Names(), ElementsAre("a.txt"));
-}
-
-TEST_F(NewFile, NeverTakesThePlaceOfOneThatCameInBetween) {
-  const std::string error = ErrorOf([&] {
-    CreateWholeFile(In("a.txt"), [&](const ByteSink& sink) {
-      sink("ours");
-      WriteBytes(In("a.txt"), "theirs");
-    });
-  });
-  EXPECT_EQ(error, In("a.txt") + kTaken);
-  EXPECT_EQ(ReadBytes(In("a.txt")), "theirs");
-  EXPECT_THAT(Names(), ElementsAre("a.txt"));
-}
-
-TEST_F(NewFile, IsNotThereWhenItsBytesCannotBeComposed) {
-  const std::string error = ErrorOf([&] {
-    CreateWholeFile(In("a.txt"), [](const ByteSink& sink) {
-      sink("half");
-      throw SourceError("m.bas", 3, 4, "no such character");
-    });
-  });
-  EXPECT_EQ(error, "m.bas:3:4: no such character");
-  EXPECT_THAT(Names(), ElementsAre());
 }
 
 TEST_F(NewFile, IsNotThereBeforeItIsWhole) {
@@ -191,24 +115,10 @@ INSTANTIATE_TEST_SUITE_P(OfTwoKinds, NewFileOnAnOlderSystem,
 
 class LookingAtAFile : public NewFile {};
 
-TEST_F(LookingAtAFile, GivesWhatReplacesIt) {
-  WriteBytes(In("a.txt"), "old");
-  const auto snapshot = LookAtFile(In("a.txt"));
-  ASSERT_TRUE(snapshot.has_value());
-  EXPECT_EQ(*snapshot, ReadWholeFile(In("a.txt")).snapshot);
-  WriteWholeFile(In("a.txt"), *snapshot, Writing("new"));
-  EXPECT_EQ(ReadBytes(In("a.txt")), "new");
-}
-
 TEST_F(LookingAtAFile, FollowsLinks) {
   WriteBytes(In("a.txt"), "old");
   fs::create_symlink("a.txt", folder_ / "b.txt");
   EXPECT_EQ(LookAtFile(In("b.txt")), LookAtFile(In("a.txt")));
-}
-
-TEST_F(LookingAtAFile, GivesNothingWhereNothingIs) {
-  EXPECT_EQ(LookAtFile(In("a.txt")), std::nullopt);
-  EXPECT_EQ(LookAtFile(In("none/a.txt")), std::nullopt);
 }
 
 TEST_F(LookingAtAFile, RefusesWhatCannotBeReplaced) {

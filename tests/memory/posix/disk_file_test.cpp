@@ -7,7 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <csignal>
 #include <cstring>
 #include <filesystem>
@@ -23,16 +22,8 @@ namespace brimwork {
 namespace disk_file_test {
 
 namespace fs = std::filesystem;
-using DiskFile = DiskFileFixture;
-using testing::EndsWith;
+using DiskFile = PosixFileFixture;
 using testing::HasSubstr;
-using testing::StartsWith;
-
-TEST_F(DiskFile, ReadsAllBytes) {
-  const std::string bytes("a\0b\r\n\xFF", 6);
-  EXPECT_EQ(ReadWholeFile(Write("a.bas", bytes)).bytes, bytes);
-  EXPECT_EQ(ReadWholeFile(Write("empty.bas", "")).bytes, "");
-}
 
 TEST_F(DiskFile, SaysWhyAFileCannotBeRead) {
   EXPECT_EQ(ErrorOf([&] { ReadWholeFile(In("none.bas")); }),
@@ -51,31 +42,6 @@ TEST_F(DiskFile, SaysThatAFileMayNotBeRead) {
   AsNobody([&] {
     EXPECT_EQ(ErrorOf([&] { ReadWholeFile(path); }), path + ": open: Permission denied");
   });
-}
-
-TEST_F(DiskFile, RefusesAFileThatGrowsWhileItIsRead) {
-  const std::string path = Write("a.bas", std::string(20'000'000, 'x'));
-  std::atomic<bool> stop = false;
-  std::atomic<bool> started = false;
-  std::thread writer([&] {
-    const int file = open(path.c_str(), O_WRONLY | O_APPEND);
-    while (!stop) {
-      WriteAll(file, "x", path);
-      started = true;
-    }
-    close(file);
-  });
-  while (!started) std::this_thread::yield();
-  // On a busy machine a whole reading may pass before the writer's next turn.
-  std::string error = kNoError;
-  for (int i = 0; i < 1000 && error == kNoError; ++i) {
-    error = ErrorOf([&] { ReadWholeFile(path); });
-  }
-  stop = true;
-  writer.join();
-  EXPECT_EQ(error, path +
-                       ": the file changed while it was being read; try again when nothing "
-                       "writes to it");
 }
 
 TEST_F(DiskFile, ReplacesAFileAndKeepsItsPermissions) {
@@ -123,67 +89,6 @@ TEST_F(DiskFile, WritesThroughLinks) {
   EXPECT_TRUE(fs::is_symlink(folder_ / "sub/link.bas"));
 }
 
-TEST_F(DiskFile, WritesAFileInTheWorkingFolder) {
-  Write("a.bas", "old");
-  const fs::path before = fs::current_path();
-  fs::current_path(folder_.Path());
-  WriteWholeFile("a.bas", ReadWholeFile("a.bas").snapshot, Writing("new"));
-  fs::current_path(before);
-  EXPECT_EQ(ReadBytes(In("a.bas")), "new");
-}
-
-TEST_F(DiskFile, KeepsAFileWithSeveralNamesOneFile) {
-  const std::string path = Write("a.bas", "old and longer");
-  fs::create_hard_link(path, folder_ / "b.bas");
-  for (const std::string bytes : {"new", "much longer than it was before"}) {
-    WriteWholeFile(path, ReadWholeFile(path).snapshot, Writing(bytes));
-    EXPECT_EQ(ReadBytes(In("b.bas")), bytes);
-    EXPECT_TRUE(fs::equivalent(path, folder_ / "b.bas"));
-    EXPECT_EQ(EntriesInFolder(), 2);
-  }
-}
-
-TEST_F(DiskFile, RefusesAFileThatWasChangedSinceItWasRead) {
-  const std::string path = Write("a.bas", "old");
-  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
-  Write("a.bas", "theirs");
-  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
-            path +
-                ": the file was changed by someone else since it was read; it was left as it is "
-                "now, run again");
-  EXPECT_EQ(ReadBytes(path), "theirs");
-  fs::remove(path);
-  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
-            path + ": realpath: No such file or directory");
-  EXPECT_FALSE(fs::exists(path));
-}
-
-TEST_F(DiskFile, RefusesAFileThatAnotherOneReplacedWithTheSameSizeAndTime) {
-  const std::string path = Write("a.bas", "old");
-  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
-  const auto time = fs::last_write_time(path);
-  Write("b.bas", "odd");
-  fs::last_write_time(folder_ / "b.bas", time);
-  fs::rename(folder_ / "b.bas", path);
-  EXPECT_THAT(ErrorOf([&] { WriteWholeFile(path, snapshot, Writing("new")); }),
-              HasSubstr("changed by someone else"));
-  EXPECT_EQ(ReadBytes(path), "odd");
-}
-
-TEST_F(DiskFile, RefusesAFileThatChangesWhileItIsComposed) {
-  const std::string path = Write("a.bas", "old");
-  const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
-  EXPECT_THAT(ErrorOf([&] {
-                WriteWholeFile(path, snapshot, [&](const ByteSink& sink) {
-                  sink("new");
-                  Write("a.bas", "theirs");
-                });
-              }),
-              HasSubstr("changed by someone else"));
-  EXPECT_EQ(ReadBytes(path), "theirs");
-  EXPECT_EQ(EntriesInFolder(), 1);
-}
-
 TEST_F(DiskFile, RefusesAReadOnlyFile) {
   const std::string path = Write("a.bas", "old");
   const FileSnapshot snapshot = ReadWholeFile(path).snapshot;
@@ -210,19 +115,6 @@ TEST_F(DiskFile, SaysThatAFolderTakesNoNewFile) {
   });
   fs::permissions(folder_.Path(), fs::perms::all);
   EXPECT_EQ(ReadBytes(path), "old");
-}
-
-TEST_F(DiskFile, LeavesTheFileAsItWasWhenTheBytesCannotBeComposed) {
-  const std::string path = Write("a.bas", "old");
-  EXPECT_EQ(ErrorOf([&] {
-              WriteWholeFile(path, ReadWholeFile(path).snapshot, [](const ByteSink& sink) {
-                sink("new");
-                throw SourceError("a.bas", 3, 4, "no such character");
-              });
-            }),
-            "a.bas:3:4: no such character");
-  EXPECT_EQ(ReadBytes(path), "old");
-  EXPECT_EQ(EntriesInFolder(), 1);
 }
 
 TEST_F(DiskFile, UsesANamedTemporaryFileWhereTheFileSystemKnowsNoOther) {

@@ -14,7 +14,7 @@ namespace brimwork {
 namespace disk_full_test {
 
 namespace fs = std::filesystem;
-using DiskFull = DiskFileFixture;
+using DiskFull = PosixFileFixture;
 
 TEST_F(DiskFull, LeavesTheFileAsItWasWhenThereIsNoRoom) {
   const std::string path = Write("a.bas", "old");

@@ -27,12 +27,6 @@ constexpr const char* kSection = "Settings";
 
 struct JsonSettingsAreaTest : JsonSettingsFixture {};
 
-TEST_F(JsonSettingsAreaTest, AMissingFileIsAnEmptyStore) {
-  EXPECT_EQ(Get("Header"), "default");
-  EXPECT_EQ(area.AllSettings(kApplication, kSection), SettingValues());
-  EXPECT_FALSE(fs::exists(file));
-}
-
 TEST_F(JsonSettingsAreaTest, AValueSavedIsReadByAnyoneElse) {
   Save("Header", "'one\r\n'two \"Größe\"\t€");
   JsonSettingsArea other(file);
@@ -42,25 +36,6 @@ TEST_F(JsonSettingsAreaTest, AValueSavedIsReadByAnyoneElse) {
       (nlohmann::json{{"Brimwork", {{"Settings", {{"Header", "'one\r\n'two \"Größe\"\t€"}}}}}}));
 }
 
-TEST_F(JsonSettingsAreaTest, AStoredEmptyTextIsAValue) {
-  Save("Header", "");
-  EXPECT_EQ(Get("Header"), "");
-}
-
-TEST_F(JsonSettingsAreaTest, ListsWhatIsStored) {
-  Save("B", "2");
-  Save("A", "1");
-  EXPECT_EQ(area.AllSettings(kApplication, kSection), (SettingValues{{"A", "1"}, {"B", "2"}}));
-  EXPECT_EQ(area.AllSettings(kApplication, "Other"), SettingValues());
-}
-
-TEST_F(JsonSettingsAreaTest, TheFileIsTextThatPeopleCanRead) {
-  Save("AutoLoad", "True");
-  EXPECT_EQ(ReadBytes(file),
-            "{\n  \"Brimwork\": {\n    \"Settings\": {\n      \"AutoLoad\": \"True\"\n    }\n  "
-            "}\n}\n");
-}
-
 TEST_F(JsonSettingsAreaTest, UnknownContentOfTheFileIsKeptInItsOrder) {
   Store(R"({"z": [1, {"a": null}], "Brimwork": {"Windows": {"Left": 4}, "Note": "mine",
             "Settings": {"Zeta": "1", "Colour": "red"}}, "a": true})");
@@ -68,39 +43,6 @@ TEST_F(JsonSettingsAreaTest, UnknownContentOfTheFileIsKeptInItsOrder) {
   EXPECT_EQ(nlohmann::ordered_json::parse(ReadBytes(file)).dump(),
             R"({"z":[1,{"a":null}],"Brimwork":{"Windows":{"Left":4},"Note":"mine",)"
             R"("Settings":{"Zeta":"1","Colour":"red","Header":"x"}},"a":true})");
-}
-
-TEST_F(JsonSettingsAreaTest, ApplicationsAndSectionsAreKeptApart) {
-  area.SaveSetting("Other", kSection, "Header", "other");
-  area.SaveSetting(kApplication, "Windows", "Header", "windows");
-  EXPECT_EQ(Get("Header"), "default");
-}
-
-TEST_F(JsonSettingsAreaTest, AFileWithAByteOrderMarkIsRead) {
-  Store("\xEF\xBB\xBF{\"Brimwork\": {\"Settings\": {\"Header\": \"x\"}}}");
-  EXPECT_EQ(Get("Header"), "x");
-}
-
-TEST_F(JsonSettingsAreaTest, SavingAnEqualValueDoesNotWrite) {
-  Store(R"({"Brimwork":{"Settings":{"Header":"x"}}})");
-  Save("Header", "x");
-  EXPECT_EQ(ReadBytes(file), R"({"Brimwork":{"Settings":{"Header":"x"}}})");
-}
-
-TEST_F(JsonSettingsAreaTest, AValueThatIsNotUtf8IsNotStored) {
-  Save("Header", "x");
-  const std::string before = ReadBytes(file);
-  EXPECT_EQ(Error([&] { Save("Separator", "'\xE4"); }),
-            file.string() + ": nothing was stored: the value for \"Separator\" is not UTF-8");
-  EXPECT_EQ(ReadBytes(file), before);
-}
-
-TEST_F(JsonSettingsAreaTest, AFolderInTheFilesPlaceIsRefused) {
-  fs::create_directory(file);
-  EXPECT_EQ(Error([&] { Get("Header"); }),
-            file.string() + ": the settings file cannot be read: Is a directory");
-  EXPECT_EQ(Error([&] { Save("Header", "x"); }),
-            file.string() + ": the settings file cannot be read: Is a directory");
 }
 
 TEST_F(JsonSettingsAreaTest, APipeInTheFilesPlaceIsRefusedWithoutWaiting) {
@@ -119,12 +61,6 @@ TEST_F(JsonSettingsAreaTest, AFileInAFoldersPlaceIsAnEmptyStoreThatCannotBeSaved
                                   ": the settings file cannot be reached: "));
 }
 
-TEST_F(JsonSettingsAreaTest, MissingFoldersAreMade) {
-  JsonSettingsArea deep(folder / "a/b/settings.json");
-  deep.SaveSetting(kApplication, kSection, "Header", "x");
-  EXPECT_EQ(deep.GetSetting(kApplication, kSection, "Header", ""), "x");
-}
-
 TEST_F(JsonSettingsAreaTest, ANewFileIsForItsUserAlone) {
   Save("Header", "x");
   EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
@@ -136,12 +72,6 @@ TEST_F(JsonSettingsAreaTest, ThePermissionsOfTheFileAreKept) {
   Save("Header", "y");
   EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
   EXPECT_EQ(Get("Header"), "y");
-}
-
-TEST_F(JsonSettingsAreaTest, NothingButTheFileAndItsLockIsLeftBehind) {
-  Save("Header", "x");
-  Save("Header", "y");
-  EXPECT_THAT(Leftovers(), testing::IsEmpty());
 }
 
 TEST_F(JsonSettingsAreaTest, AReadOnlyFileStaysAsItIs) {

@@ -7,6 +7,7 @@
 
 #include "environment/run_time_error.h"
 #include "memory/json_settings_area.h"
+#include "memory/utf8_path.h"
 #include "support/json_settings_fixture.h"
 
 namespace brimwork {
@@ -16,7 +17,7 @@ struct DamagedSettingsFile : JsonSettingsFixture {
   /// The error that each kind of access gives; the file has to stay as it is.
   void ExpectRefused(std::string_view bytes, const std::string& message) {
     Store(bytes);
-    const std::string expected = file.string() + message;
+    const std::string expected = TextOf(file) + message;
     EXPECT_EQ(Error([&] { Get("Header"); }), expected);
     EXPECT_EQ(Error([&] { area.AllSettings("Brimwork", "Settings"); }), expected);
     EXPECT_EQ(Error([&] { Save("Header", "new"); }), expected);
