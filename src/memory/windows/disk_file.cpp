@@ -19,11 +19,12 @@ using windows::TemporaryFile;
 
 /// done: what was to be done with the file.
 void RequireRegularFile(const OpenFile& file, const std::string& path, const std::string& done) {
-  if ((windows::InformationOf(file, path).dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    throw SourceError(path, "this is a folder; name a file");
-  }
+  // A device has no information of a file.
   if (GetFileType(file.Handle()) != FILE_TYPE_DISK) {
     throw SourceError(path, "this is no regular file; only regular files can be " + done);
+  }
+  if ((windows::InformationOf(file, path).dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    throw SourceError(path, "this is a folder; name a file");
   }
 }
 

@@ -126,6 +126,9 @@ TemporaryFile::~TemporaryFile() {
 
 void TemporaryFile::Replace(const std::string& target) {
   file_.Close();
+  // Not each system's replacing looks first whether it can, and keeps attributes.
+  OpenExisting(target, DELETE).Close();
+  SetFileAttributesW(Wide(path_).c_str(), GetFileAttributesW(Wide(target).c_str()));
   if (!ReplaceFileW(Wide(target).c_str(), Wide(path_).c_str(), nullptr,
                     REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
     ThrowSystemError(target, "replace");

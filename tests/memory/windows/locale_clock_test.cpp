@@ -16,16 +16,14 @@ namespace windows_locale_clock_test {
 
 TEST(WindowsLocaleClock, WritesTheDatesOfItsCountry) {
   const DateTime evening{2026, 11, 5, 22, 20, 30};
-  EXPECT_EQ(LocaleClock(evening, "de-DE").ShortDate(), "05.11.2026");
-  EXPECT_EQ(LocaleClock(evening, "de-DE").GeneralDate(), "05.11.2026 22:20:30");
+  EXPECT_EQ(LocaleClock(evening, "en-GB").ShortDate(), "05/11/2026");
+  EXPECT_EQ(LocaleClock(evening, "en-GB").GeneralDate(), "05/11/2026 22:20:30");
   EXPECT_EQ(LocaleClock(evening, "en-US").ShortDate(), "11/5/2026");
   EXPECT_EQ(LocaleClock(evening, "en-US").GeneralDate(), "11/5/2026 10:20:30 PM");
 }
 
 TEST(WindowsLocaleClock, GivesUtf8) {
-  EXPECT_THAT(LocaleClock({2026, 11, 5, 9, 20, 30}, "ja-JP").ShortDate(), "2026/11/05");
-  EXPECT_THAT(LocaleClock({2026, 11, 5, 9, 20, 30}, "ko-KR").GeneralDate(),
-              testing::HasSubstr("오전"));
+  EXPECT_THAT(LocaleClock({2026, 11, 5}, "bg-BG").ShortDate(), testing::HasSubstr("г."));
 }
 
 TEST(WindowsLocaleClock, TakesTheUsersSettingsForALocaleThatIsNoneOfTheSystems) {
