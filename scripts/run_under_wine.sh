@@ -57,6 +57,9 @@ MakePrefix() {
   env -u DISPLAY wineboot --init >"$WINEPREFIX/wineboot.log" 2>&1
   # There is no window manager on a screen in memory: windows draw their own title bars.
   wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$WINEPREFIX/wineboot.log" 2>&1
+  # A program that crashes ends; nobody is there to close a window that tells of it.
+  wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f \
+    >>"$WINEPREFIX/wineboot.log" 2>&1
   wineserver -w
   # Not all of Wine's own fonts are found where Debian puts them; those of title bars are not.
   cp -n /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true

@@ -39,9 +39,10 @@ void UnloadForms(AddIn& addIn) {
 
 }  // namespace
 
-void Connect::AddinInstance_OnConnection(const Environment& application) {
+void Connect::AddinInstance_OnConnection(const Environment& application,
+                                         std::shared_ptr<const void> owner) {
   AddinInstance_OnDisconnection();
-  addIn_ = std::make_shared<AddIn>(application);
+  addIn_ = std::make_shared<AddIn>(application, std::move(owner));
   menus_ = std::make_shared<Menus>(addIn_);
   if (!ResumeNext([this] { StartUp(); })) return;
   ResumeNext([&] {

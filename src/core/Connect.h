@@ -19,8 +19,10 @@ class Connect {
 
   /// Shows the splash form where the user wants it, and builds the toolbar, the Add-Ins submenu and
   /// the pop-up entries. The user is told of a failure, and what was built by then stays.
-  /// application has to live until the disconnection.
-  void AddinInstance_OnConnection(const Environment& application);
+  /// owner keeps application alive: it is held until the disconnection, and by a command that
+  /// waits for messages until that has ended. Without one application outlives all of that.
+  void AddinInstance_OnConnection(const Environment& application,
+                                  std::shared_ptr<const void> owner = nullptr);
 
   /// Reopens the most recent project where the user wants it.
   void AddinInstance_OnStartupComplete();
@@ -30,6 +32,10 @@ class Connect {
   void AddinInstance_OnDisconnection();
 
   bool IsConnected() const { return addIn_ != nullptr; }
+
+  /// What lives as long as the connection, and longer while somebody holds it, as whoever calls
+  /// into its forms should. Null when the add-in is not connected.
+  std::shared_ptr<const void> Connected() const { return addIn_; }
 
   /// Whether the environment's templates are its own, as far as the start-up's completion has
   /// asked.

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "core/add_in_forms.h"
 #include "core/frmInfo.h"
@@ -12,7 +13,8 @@
 namespace brimwork {
 
 struct AddIn {
-  explicit AddIn(const Environment& parts) : environment(parts), context{environment} {}
+  explicit AddIn(const Environment& parts, std::shared_ptr<const void> owner = nullptr)
+      : ownerOfParts(std::move(owner)), environment(parts), context{environment} {}
   AddIn(const AddIn&) = delete;
   AddIn& operator=(const AddIn&) = delete;
 
@@ -25,6 +27,7 @@ struct AddIn {
     return !error;
   }
 
+  std::shared_ptr<const void> ownerOfParts;  // goes last; null where the parts outlive this
   Environment environment;
   Context context;
   frmInfo progressWindow{environment};

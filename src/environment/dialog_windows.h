@@ -9,6 +9,12 @@
 
 #include "environment/desktop.h"
 
+// The system's headers give these names to macros of their own.
+#undef CreateWindowEx
+#undef FindWindow
+#undef FindWindowEx
+#undef SetWindowText
+
 namespace brimwork {
 
 namespace window_class {

@@ -7,6 +7,9 @@
 
 #include "environment/desktop.h"
 
+// The system's headers give these names to macros of their own.
+#undef MessageBox
+
 namespace brimwork {
 
 namespace message_box_result {

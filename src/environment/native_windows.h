@@ -7,6 +7,11 @@
 
 #include "environment/desktop.h"
 
+// The system's headers give these names to macros of their own.
+#undef GetMenuItemInfo
+#undef SendMessage
+#undef SetMenuItemInfo
+
 namespace brimwork {
 
 using MenuHandle = std::uintptr_t;  // 0 is no menu

@@ -3,6 +3,7 @@
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include "win32/module_path.h"
 #include "win32/wide_text.h"
 #include "windows/desktop/system_error.h"
 
@@ -27,18 +28,6 @@ DWORD ErrorOf(INT_PTR answer) {
   }
 }
 
-std::wstring FileNameOf(HINSTANCE module) {
-  std::wstring path(MAX_PATH, L'\0');
-  DWORD length = 0;
-  while ((length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()))) ==
-         path.size()) {
-    path.resize(path.size() * 2);
-  }
-  if (length == 0) RaiseSystemError("GetModuleFileName");
-  path.resize(length);
-  return path;
-}
-
 }  // namespace
 
 std::string SystemShellFolders::SpecialFolderPath(int folderId) {
@@ -58,8 +47,8 @@ void SystemShell::ShellExecute(std::string_view verb, std::string_view file,
 }
 
 std::string ModuleApp::Path() {
-  const std::wstring path = FileNameOf(module_);
-  return win32::Narrow(std::wstring_view(path).substr(0, path.rfind(L'\\')));
+  const std::string path = win32::ModulePath(module_);
+  return path.substr(0, path.rfind('\\'));
 }
 
 }  // namespace brimwork::windows

@@ -47,8 +47,8 @@ HRESULT RaiseInCaller(int number, const char* words, EXCEPINFO* exception) {
 
 }  // namespace
 
-ComPointer<ClickSink> ClickSink::Make(Handler handler) {
-  return ComPointer<ClickSink>::Adopt(new ClickSink(std::move(handler)));
+ComPointer<ClickSink> ClickSink::Make(Handler handler, std::shared_ptr<const void> inUse) {
+  return ComPointer<ClickSink>::Adopt(new ClickSink(std::move(handler), std::move(inUse)));
 }
 
 HRESULT ClickSink::QueryInterface(REFIID iid, void** object) {

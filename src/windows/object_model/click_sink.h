@@ -18,7 +18,9 @@ class ClickSink : public IDispatch {
   /// Given the control that was clicked; null when the environment did not say.
   using Handler = std::function<void(const win32::ComPointer<IDispatch>& clicked)>;
 
-  static win32::ComPointer<ClickSink> Make(Handler handler);
+  /// inUse is held as long as the sink lives; it may be null.
+  static win32::ComPointer<ClickSink> Make(Handler handler,
+                                           std::shared_ptr<const void> inUse = nullptr);
 
   /// Answers for this event interface, too, from now on.
   void SpeakFor(const IID& events) { events_ = events; }
@@ -38,13 +40,14 @@ class ClickSink : public IDispatch {
                                    UINT* wrongArgument) override;
 
  private:
-  explicit ClickSink(Handler handler)
-      : handler_(std::make_shared<const Handler>(std::move(handler))) {}
+  ClickSink(Handler handler, std::shared_ptr<const void> inUse)
+      : inUse_(std::move(inUse)), handler_(std::make_shared<const Handler>(std::move(handler))) {}
   virtual ~ClickSink() = default;
 
   HRESULT Handle(const DISPPARAMS* parameters, EXCEPINFO* exception);
 
   ULONG references_ = 1;
+  std::shared_ptr<const void> inUse_;
   IID events_ = IID_NULL;
   std::shared_ptr<const Handler> handler_;
 };

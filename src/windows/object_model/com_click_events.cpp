@@ -29,7 +29,8 @@ ClickSink::Handler SinkHandler(Control bound, ClickHandler onClick) {
 ComClickEvents::ComClickEvents(const DispatchObject& vbe, Control control, ClickHandler onClick)
     : events_(ToUnknown(vbe.Part(ObjectKind::kEvents, L"Events")
                             .Get(L"CommandBarEvents", Variant(control->Control().Object())))),
-      sink_(ClickSink::Make(SinkHandler(std::move(control), std::move(onClick)))) {
+      sink_(ClickSink::Make(SinkHandler(std::move(control), std::move(onClick)),
+                            vbe.Connected()->inUse)) {
   auto connection = ConnectClicks(events_, *sink_);
   if (!connection.point) {
     throw RunTimeError(error_number::kNotSupportedByObject, "the environment tells of no clicks");

@@ -27,7 +27,7 @@ int ComCommandBar::Top() { return ToNumber(bar_.Get(L"Top")); }
 void ComCommandBar::SetTop(int top) { bar_.Put(L"Top", Argument(top)); }
 
 std::shared_ptr<CommandBarControls> ComCommandBar::Controls() {
-  return bar_.GetAs<ComCommandBarControls>(L"Controls");
+  return bar_.GetExisting<ComCommandBarControls>(L"Controls");
 }
 
 void ComCommandBar::Delete() { bar_.Call(L"Delete"); }

@@ -41,7 +41,7 @@ void ComCommandBarControl::SetStyle(int style) { ofItsType_.Put(L"Style", Argume
 void ComCommandBarControl::PasteFace() { ofItsType_.Call(L"PasteFace"); }
 
 std::shared_ptr<CommandBarControls> ComCommandBarControl::Controls() {
-  return ofItsType_.GetAs<ComCommandBarControls>(L"Controls");
+  return ofItsType_.GetExisting<ComCommandBarControls>(L"Controls");
 }
 
 }  // namespace brimwork::windows

@@ -12,7 +12,7 @@ using win32::Variant;
 int ComCommandBarControls::Count() { return ToNumber(controls_.Get(L"Count")); }
 
 std::shared_ptr<CommandBarControl> ComCommandBarControls::Item(int index) {
-  return controls_.GetAs<ComCommandBarControl>(L"Item", index);
+  return controls_.GetExisting<ComCommandBarControl>(L"Item", index);
 }
 
 // The environment's own look-up by caption has rules of its own about access keys.
@@ -28,7 +28,7 @@ std::shared_ptr<CommandBarControl> ComCommandBarControls::Item(std::string_view 
 }
 
 std::shared_ptr<CommandBarControl> ComCommandBarControls::Add(const NewControl& control) {
-  return controls_.CallAs<ComCommandBarControl>(
+  return controls_.CallExisting<ComCommandBarControl>(
       L"Add", control.type, control.id, Variant::Missing(),
       control.before == 0 ? Variant::Missing() : Argument(control.before), control.isTemporary);
 }

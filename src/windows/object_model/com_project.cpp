@@ -21,7 +21,7 @@ std::vector<std::shared_ptr<VBComponent>> ComProject::VBComponents() {
 }
 
 std::shared_ptr<VBComponent> ComProject::AddVBComponent(int type) {
-  return Components().CallAs<ComComponent>(L"Add", type);
+  return Components().CallExisting<ComComponent>(L"Add", type);
 }
 
 DispatchObject ComProject::Components() const {

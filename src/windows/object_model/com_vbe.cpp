@@ -5,7 +5,7 @@
 
 #include "environment/resume_next.h"
 #include "environment/run_time_error.h"
-#include "win32/wide_text.h"
+#include "win32/module_path.h"
 #include "windows/object_model/com_click_events.h"
 #include "windows/object_model/com_code_pane.h"
 #include "windows/object_model/com_command_bar.h"
@@ -19,33 +19,25 @@ namespace {
 using win32::ComPointer;
 using win32::Variant;
 
-std::shared_ptr<Connection> NewConnection(Patience patience) {
+std::shared_ptr<Connection> NewConnection(Patience patience, std::shared_ptr<const void> inUse) {
   auto connection = std::make_shared<Connection>();
   connection->patience = std::move(patience);
+  connection->inUse = std::move(inUse);
   return connection;
-}
-
-std::string PathOfRunningProgram() {
-  std::wstring path(MAX_PATH, L'\0');
-  DWORD length = 0;
-  while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) ==
-         path.size()) {
-    path.resize(path.size() * 2);
-  }
-  return win32::Narrow({path.data(), length});
 }
 
 }  // namespace
 
-ComVbe::ComVbe(ComPointer<IDispatch> vbe, Patience patience)
-    : vbe_(std::move(vbe), NewConnection(std::move(patience)), ObjectKind::kVbe) {}
+ComVbe::ComVbe(ComPointer<IDispatch> vbe, Patience patience, std::shared_ptr<const void> inUse)
+    : vbe_(std::move(vbe), NewConnection(std::move(patience), std::move(inUse)), ObjectKind::kVbe) {
+}
 
 std::string ComVbe::FullName() {
   std::string name;
   const auto failure = ResumeNext([&] { name = ToText(vbe_.Get(L"FullName")); });
   if (!failure) return name;
   if (failure->Number() != error_number::kNotSupportedByObject) throw *failure;
-  return PathOfRunningProgram();
+  return win32::ModulePath(nullptr);
 }
 
 std::shared_ptr<CodePane> ComVbe::ActiveCodePane() {
@@ -87,8 +79,8 @@ std::shared_ptr<CommandBar> ComVbe::CommandBarOfName(std::string_view name) {
 
 std::shared_ptr<CommandBar> ComVbe::AddCommandBar(const NewCommandBar& bar) {
   constexpr bool kReplacesTheMenuBar = false;
-  return Bars().CallAs<ComCommandBar>(L"Add", bar.name, bar.position, kReplacesTheMenuBar,
-                                      bar.isTemporary);
+  return Bars().CallExisting<ComCommandBar>(L"Add", bar.name, bar.position, kReplacesTheMenuBar,
+                                            bar.isTemporary);
 }
 
 std::shared_ptr<CommandBarControl> ComVbe::FindControl(int id) {

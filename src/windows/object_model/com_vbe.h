@@ -9,7 +9,13 @@ namespace brimwork::windows {
 class ComVbe : public VBE {
  public:
   /// vbe is not null. The environment's objects belong to its thread, and so do these.
-  explicit ComVbe(win32::ComPointer<IDispatch> vbe, Patience patience = {});
+  /// inUse is held by what the environment holds of the add-in's; it may be null.
+  explicit ComVbe(win32::ComPointer<IDispatch> vbe, Patience patience = {},
+                  std::shared_ptr<const void> inUse = nullptr);
+
+  /// From now on each call, that of an object handed out before, too, raises error 440 and does not
+  /// reach the environment.
+  void End() { vbe_.Connected()->hasEnded = true; }
 
   /// That of the running program where the environment does not say: it is in its process.
   std::string FullName() override;

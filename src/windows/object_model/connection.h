@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -56,6 +57,9 @@ struct Connection {
   MemberNames& NamesOf(ObjectKind kind) { return names[static_cast<std::size_t>(kind)]; }
 
   Patience patience;
+  std::shared_ptr<const void>
+      inUse;              // what objects of the add-in's that the environment holds hold
+  bool hasEnded = false;  // from then on no call reaches the environment
   std::array<MemberNames, static_cast<std::size_t>(ObjectKind::kLast) + 1> names;
 };
 

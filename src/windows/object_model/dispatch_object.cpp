@@ -45,10 +45,12 @@ DispatchObject::DispatchObject(const DispatchObject& object, std::shared_ptr<Mem
 
 DispatchObject DispatchObject::Part(ObjectKind kind, std::wstring_view property) const {
   auto part = ToObject(Get(property));
-  if (!part) {
-    throw RunTimeError(error_number::kObjectNotSet, win32::Narrow(property) + " is nothing");
-  }
+  if (!part) RaiseNothing(property);
   return {std::move(part), connection_, kind};
+}
+
+void DispatchObject::RaiseNothing(std::wstring_view member) {
+  throw RunTimeError(error_number::kObjectNotSet, win32::Narrow(member) + " is nothing");
 }
 
 void DispatchObject::Put(std::wstring_view property, const Variant& value) const {
@@ -101,6 +103,7 @@ HRESULT DispatchObject::Try(std::wstring_view member, WORD kind, DISPPARAMS& par
 
 HRESULT DispatchObject::TryOnce(std::wstring_view member, WORD kind, DISPPARAMS& parameters,
                                 VARIANT* result, ExceptionInfo& exception) const {
+  if (connection_->hasEnded) return RPC_E_DISCONNECTED;
   DISPID id = DISPID_UNKNOWN;
   const HRESULT status = names_->Find(*object_, member, id);
   if (FAILED(status)) return status;

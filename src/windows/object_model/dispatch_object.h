@@ -52,6 +52,18 @@ class DispatchObject {
     return Wrap<ComObject>(Call(method, std::forward<Arguments>(arguments)...));
   }
 
+  /// The same for an object that is always there. Raises error 91 for "nothing".
+  template <class ComObject, class... Arguments>
+  std::shared_ptr<ComObject> GetExisting(std::wstring_view property,
+                                         Arguments&&... arguments) const {
+    return Existing(GetAs<ComObject>(property, std::forward<Arguments>(arguments)...), property);
+  }
+  template <class ComObject, class... Arguments>
+  std::shared_ptr<ComObject> CallExisting(std::wstring_view method,
+                                          Arguments&&... arguments) const {
+    return Existing(CallAs<ComObject>(method, std::forward<Arguments>(arguments)...), method);
+  }
+
   /// An object that this one always has. Raises error 91 for "nothing".
   DispatchObject Part(ObjectKind kind, std::wstring_view property) const;
 
@@ -90,6 +102,14 @@ class DispatchObject {
     return std::make_shared<ComObject>(
         DispatchObject(std::move(object), connection_, ComObject::kKind));
   }
+
+  template <class ComObject>
+  static std::shared_ptr<ComObject> Existing(std::shared_ptr<ComObject> object,
+                                             std::wstring_view member) {
+    if (!object) RaiseNothing(member);
+    return object;
+  }
+  [[noreturn]] static void RaiseNothing(std::wstring_view member);
 
   win32::Variant Invoke(std::wstring_view member, WORD kind,
                         std::span<const win32::Variant> arguments) const;
