@@ -10,8 +10,6 @@
 namespace brimwork::bench {
 namespace {
 
-constexpr CLSID kApplication = {
-    0x8d0c1f5a, 0x3b7e, 0x4c62, {0x9a, 0x41, 0x5e, 0x27, 0xc8, 0x96, 0x0d, 0xb3}};
 constexpr const char* kProgId = "BrimworkBench.Application";
 
 /// A place for classes in the registry.
@@ -68,7 +66,7 @@ class ApplicationFactory final : public IClassFactory {
 std::string ClassText() {
   constexpr int kSize = 39;
   wchar_t text[kSize];
-  StringFromGUID2(kApplication, text, kSize);
+  StringFromGUID2(kApplicationClass, text, kSize);
   return win32::Narrow(text);
 }
 
@@ -106,8 +104,8 @@ bool IsAmongAllClasses() {
 ApplicationClass::ApplicationClass(Workbench& workbench, Surface& surface, AddInList& addIns)
     : session_(Session::Open(workbench, surface, addIns)),
       factory_(win32::ComPointer<IClassFactory>(new ApplicationFactory(session_))) {
-  const HRESULT result = CoRegisterClassObject(kApplication, factory_.get(), CLSCTX_LOCAL_SERVER,
-                                               REGCLS_MULTIPLEUSE, &registration_);
+  const HRESULT result = CoRegisterClassObject(
+      kApplicationClass, factory_.get(), CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &registration_);
   if (FAILED(result)) {
     throw std::runtime_error("the class BrimworkBench.Application cannot be offered: " +
                              win32::SystemWords(static_cast<DWORD>(result)));

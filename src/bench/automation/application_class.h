@@ -9,6 +9,9 @@
 
 namespace brimwork::bench {
 
+inline constexpr CLSID kApplicationClass = {
+    0x8d0c1f5a, 0x3b7e, 0x4c62, {0x9a, 0x41, 0x5e, 0x27, 0xc8, 0x96, 0x0d, 0xb3}};
+
 /// Offers the class to other programs, as long as it lives. All of it belongs to the thread's
 /// apartment, which must be single-threaded and run a message loop.
 class ApplicationClass {
