@@ -9,14 +9,14 @@
 
 namespace brimwork {
 
-void TextBox::SetSelStart(int position) {
-  selStart_ = std::clamp(position, 0, CharacterCount(Text));
-  selLength_ = 0;
-  Changed(PropertyId::kSelection);
-}
+void TextBox::SetSelStart(int position) { SetSelection(position, 0); }
 
-void TextBox::SetSelLength(int length) {
-  selLength_ = std::clamp(length, 0, CharacterCount(Text) - selStart_);
+void TextBox::SetSelLength(int length) { SetSelection(selStart_, length); }
+
+void TextBox::SetSelection(int start, int length) {
+  const int count = CharacterCount(Text);
+  selStart_ = std::clamp(start, 0, count);
+  selLength_ = std::clamp(length, 0, count - selStart_);
   Changed(PropertyId::kSelection);
 }
 
@@ -46,10 +46,23 @@ void TextBox::TypeCharacter(std::string_view character) {
   if (most == 0 || CharacterCount(Text) - selLength_ < most) ReplaceSelection(character);
 }
 
-void TextBox::SelectAll() {
-  if (!IsReached()) return;
-  SetSelStart(0);
-  SetSelLength(CharacterCount(Text));
+bool TextBox::HasRoomFor(std::string_view text) const {
+  const int most = Layout().maxLength;
+  return most == 0 || CharacterCount(text) <= std::max(most, CharacterCount(Text));
+}
+
+void TextBox::SelectAll() { Select(0, CharacterCount(Text)); }
+
+void TextBox::Select(int start, int length) {
+  if (IsReached()) SetSelection(start, length);
+}
+
+void TextBox::Edit(std::string_view text, int selStart, int selLength) {
+  if (!IsReached() || Locked || !HasRoomFor(text)) return;
+  if (Text == text) return SetSelection(selStart, selLength);
+  nextStart_ = selStart;
+  nextLength_ = selLength;
+  Text = text;
 }
 
 void TextBox::Erase() {
@@ -73,13 +86,13 @@ void TextBox::ReplaceSelection(std::string_view text) {
   whole.replace(start, SelText().size(), text);
   const int caret = selStart_ + CharacterCount(text);
   if (Text == whole) return SetSelStart(caret);
-  nextCaret_ = caret;
+  nextStart_ = caret;
   Text = whole;
 }
 
 void TextBox::AfterChange(PropertyId property) {
   if (property != PropertyId::kText) return;
-  SetSelStart(std::exchange(nextCaret_, 0));
+  SetSelection(std::exchange(nextStart_, 0), std::exchange(nextLength_, 0));
   Raise(OnChange);
 }
 
@@ -89,7 +102,8 @@ void TextBox::Design(const ControlLayout& layout) {
   Locked.Preset(layout.isLocked);
   selStart_ = 0;
   selLength_ = 0;
-  nextCaret_ = 0;
+  nextStart_ = 0;
+  nextLength_ = 0;
 }
 
 }  // namespace brimwork

@@ -36,6 +36,12 @@ class TextBox : public Control {
   /// The Backspace key: takes away the selected text, or the character before the caret.
   void Erase();
 
+  /// Selects from a character on, with the caret behind the last one.
+  void Select(int start, int length);
+  /// Edits the text in a window of the host's, which gives the whole text and where its selection
+  /// is now. What the box does not allow changes nothing; the host then shows what it has.
+  void Edit(std::string_view text, int selStart, int selLength);
+
   /// A line end where the box has several lines.
   void PressEnter() override;
 
@@ -52,12 +58,17 @@ class TextBox : public Control {
   Color UsualBackColor() const override { return system_color::kWindow; }
 
  private:
+  bool HasRoomFor(std::string_view text) const;
+  void SetSelection(int start, int length);
   void TypeCharacter(std::string_view character);
   void ReplaceSelection(std::string_view text);
 
   int selStart_ = 0;
   int selLength_ = 0;
-  int nextCaret_ = 0;  // where the caret goes when Text changes next; code leaves it at the start
+
+  // The selection when Text changes next; code leaves the caret at the start.
+  int nextStart_ = 0;
+  int nextLength_ = 0;
 };
 
 }  // namespace brimwork

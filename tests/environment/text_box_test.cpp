@@ -143,5 +143,63 @@ TEST(TextBox, KeepsItsTextWhileItIsDisabled) {
   EXPECT_THAT(sample.form.events, Not(Contains("txtNotes Change")));
 }
 
+TEST(TextBox, TakesOverWhatWasEditedWithItsSelection) {
+  ShownSample sample;
+  TextBox& box = sample.form.txtName;
+  box.Edit("Zo\u00eb", 1, 2);
+  EXPECT_EQ(box.Text, "Zo\u00eb");
+  EXPECT_EQ(box.SelText(), "o\u00eb");
+  EXPECT_THAT(sample.form.events, Contains("txtName Change Zo\u00eb"));
+  EXPECT_EQ(sample.form.ActiveControl(), &box);
+}
+
+TEST(TextBox, TellsOfAnEditedTextAndItsSelectionOnceEach) {
+  ShownSample sample;
+  sample.form.txtName.SetFocus();
+  std::vector<PropertyId> changes;
+  sample.host.onChange = [&](Form&, Control*, PropertyId id) { changes.push_back(id); };
+  sample.form.txtName.Edit("Bert", 2, 0);
+  EXPECT_EQ(changes, (std::vector{PropertyId::kText, PropertyId::kSelection}));
+}
+
+TEST(TextBox, LeavesTheCaretAtTheStartWhenCodeSetsItsTextAfterAnEdit) {
+  ShownSample sample;
+  sample.form.txtName.Edit("Bert", 4, 0);
+  sample.form.txtName.Text = "Carl";
+  EXPECT_EQ(sample.form.txtName.SelStart(), 0);
+}
+
+TEST(TextBox, RefusesAnEditThatItDoesNotAllow) {
+  ShownSample sample;
+  TextBox& box = sample.form.txtName;
+  box.Edit("12345678901", 0, 0);
+  EXPECT_EQ(box.Text, "Anne");
+  box.Locked = true;
+  box.Edit("Bert", 0, 0);
+  EXPECT_EQ(box.Text, "Anne");
+  box.Locked = false;
+  box.Enabled = false;
+  box.Edit("Bert", 0, 0);
+  EXPECT_EQ(box.Text, "Anne");
+}
+
+TEST(TextBox, LetsAnEditShortenATextThatCodeMadeTooLong) {
+  ShownSample sample;
+  TextBox& box = sample.form.txtName;
+  box.Text = "123456789012";
+  box.Edit("12345678901", 0, 0);
+  EXPECT_EQ(box.Text, "12345678901");
+}
+
+TEST(TextBox, SelectsFromACharacterOnAsFarAsItsTextGoes) {
+  ShownSample sample;
+  TextBox& box = sample.form.txtName;
+  box.Select(2, 9);
+  EXPECT_EQ(box.SelText(), "ne");
+  box.Select(9, 1);
+  EXPECT_EQ(box.SelStart(), 4);
+  EXPECT_EQ(box.SelLength(), 0);
+}
+
 }  // namespace text_box_test
 }  // namespace brimwork
