@@ -33,6 +33,7 @@ const FormLayout& CodeLayout() {
                                      .hasMinButton = true,
                                      .hasMaxButton = true,
                                      .startUpPosition = StartUpPosition::kCenterScreen,
+                                     .icon = "icon/brimwork",
                                      .controls = kControls};
   return kLayout;
 }
