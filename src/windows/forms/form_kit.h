@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -15,6 +16,9 @@
 #include "windows/forms/window_class.h"
 
 namespace brimwork::windows {
+
+/// Gives what is held while an event of a form is handled, so that the form outlives it.
+using FormKeeper = std::function<std::shared_ptr<const void>()>;
 
 /// What becomes of an error that an event of a form raised and nothing caught.
 using FormErrorHandler = std::function<void(const std::exception& error)>;
@@ -31,6 +35,7 @@ struct FormKit {
 
   std::function<HWND()> owner;  // may be empty
   FormErrorHandler onError;     // may be empty
+  FormKeeper keeper;            // may be empty
   std::vector<HWND> activated;  // windows of forms in the order of their last activation
 };
 

@@ -59,6 +59,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   bool Tell(Action action) noexcept {
     if (!IsLoaded()) return false;
     try {
+      const auto kept = kit_->keeper ? kit_->keeper() : nullptr;
       action();
     } catch (const std::exception& error) {
       Report(error);

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "environment/form_host.h"
@@ -29,6 +30,8 @@ class NativeFormHost : public FormHost {
   NativeFormHost(const NativeFormHost&) = delete;
   NativeFormHost& operator=(const NativeFormHost&) = delete;
   ~NativeFormHost() override;
+
+  void KeepAliveBy(FormKeeper keeper) { kit_->keeper = std::move(keeper); }
 
   WindowHandle Load(Form& form) override;
   void Show(Form& form, ShowMode mode) override;
