@@ -41,7 +41,13 @@ enum class ObjectKind {
   kControls,
   kControl,
   kEvents,
-  kLast = kEvents
+  // Of the word processor:
+  kWord,
+  kDocuments,
+  kDocument,
+  kDocumentWindow,
+  kSelection,
+  kLast = kSelection
 };
 
 /// How a call is repeated that the environment turned away because it is busy. The add-in runs on

@@ -32,6 +32,16 @@ class ReversedArguments {
   DISPPARAMS parameters_ = {};
 };
 
+/// The number of a method's argument, which is asked for together with the method's.
+bool FindArgument(IDispatch& object, std::wstring_view method, std::wstring_view argument,
+                  DISPID& id) {
+  OLECHAR* names[] = {const_cast<OLECHAR*>(method.data()), const_cast<OLECHAR*>(argument.data())};
+  DISPID ids[] = {DISPID_UNKNOWN, DISPID_UNKNOWN};
+  const HRESULT status = object.GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids);
+  id = ids[1];
+  return SUCCEEDED(status);
+}
+
 }  // namespace
 
 DispatchObject::DispatchObject(ComPointer<IDispatch> object, std::shared_ptr<Connection> connection,
@@ -79,6 +89,17 @@ Variant DispatchObject::Invoke(std::wstring_view member, WORD kind,
   const HRESULT status = Try(member, kind, reversed.Parameters(), result.Receive(), exception);
   if (FAILED(status)) throw AutomationError(status, exception, member);
   return result;
+}
+
+void DispatchObject::CallWithNamed(std::wstring_view method, std::wstring_view argument,
+                                   Variant value) const {
+  VARIANT values[] = {value.Get()};
+  DISPID name = DISPID_UNKNOWN;
+  const bool isNamed = FindArgument(*object_, method, argument, name);
+  DISPPARAMS parameters = {values, &name, 1, isNamed ? 1U : 0U};
+  ExceptionInfo exception;
+  const HRESULT status = Try(method, DISPATCH_METHOD, parameters, nullptr, exception);
+  if (FAILED(status)) throw AutomationError(status, exception, method);
 }
 
 HRESULT DispatchObject::PutAs(WORD kind, std::wstring_view property, const Variant& value,

@@ -41,6 +41,13 @@ class DispatchObject {
     return Invoke(method, DISPATCH_METHOD, Values(std::forward<Arguments>(arguments)...));
   }
 
+  /// Calls a method with one argument by its name, the others left out. Of an object that knows no
+  /// names of arguments it is the first one.
+  template <class Value>
+  void CallNamed(std::wstring_view method, std::wstring_view argument, Value&& value) const {
+    CallWithNamed(method, argument, Argument(std::forward<Value>(value)));
+  }
+
   /// The object that a property or method gives, as ComObject (a class with kKind and a constructor
   /// that takes a DispatchObject). Null for "nothing".
   template <class ComObject, class... Arguments>
@@ -113,6 +120,8 @@ class DispatchObject {
 
   win32::Variant Invoke(std::wstring_view member, WORD kind,
                         std::span<const win32::Variant> arguments) const;
+  void CallWithNamed(std::wstring_view method, std::wstring_view argument,
+                     win32::Variant value) const;
   HRESULT PutAs(WORD kind, std::wstring_view property, const win32::Variant& value,
                 ExceptionInfo& exception) const;
   HRESULT Try(std::wstring_view member, WORD kind, DISPPARAMS& parameters, VARIANT* result,

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -83,11 +84,12 @@ class FakeDispatch : public IDispatch {
   ULONG References() const { return references_; }
 
   std::vector<Call> calls;
-  DISPID firstId = 100;               // of its members; set before the first one
-  HRESULT statusOfNaming = S_OK;      // what naming a member answers
-  bool knowsItsInterfaces = true;     // false: IUnknown alone
-  IUnknown* outer = nullptr;          // whom it is asked for IUnknown as; null for itself
-  std::function<void()> beforeReply;  // may be empty
+  std::map<std::string, DISPID> arguments;  // numbers of its members' arguments by their names
+  DISPID firstId = 100;                     // of its members; set before the first one
+  HRESULT statusOfNaming = S_OK;            // what naming a member answers
+  bool knowsItsInterfaces = true;           // false: IUnknown alone
+  IUnknown* outer = nullptr;                // whom it is asked for IUnknown as; null for itself
+  std::function<void()> beforeReply;        // may be empty
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
     *object = nullptr;
@@ -114,7 +116,7 @@ class FakeDispatch : public IDispatch {
     *info = nullptr;
     return DISP_E_BADINDEX;
   }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID,
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                           DISPID* ids) override {
     const std::string name = win32::Narrow(names[0]);
     ++timesNamed_[name];
@@ -122,7 +124,7 @@ class FakeDispatch : public IDispatch {
     for (const auto& [id, member] : ids_) {
       if (member != name) continue;
       *ids = id;
-      return S_OK;
+      return NameArguments(std::span(names, count).subspan(1), ids + 1);
     }
     return DISP_E_UNKNOWNNAME;
   }
@@ -141,6 +143,15 @@ class FakeDispatch : public IDispatch {
  private:
   FakeDispatch() = default;
   virtual ~FakeDispatch() = default;
+
+  HRESULT NameArguments(std::span<LPOLESTR> names, DISPID* ids) const {
+    for (const LPOLESTR name : names) {
+      const auto named = arguments.find(win32::Narrow(name));
+      if (named == arguments.end()) return DISP_E_UNKNOWNNAME;
+      *ids++ = named->second;
+    }
+    return S_OK;
+  }
 
   static Call Noted(const std::string& member, WORD kind, const DISPPARAMS& parameters,
                     bool wantsResult) {
