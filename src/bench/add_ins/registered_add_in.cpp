@@ -2,12 +2,21 @@
 
 #include <windows.h>
 
+#include <set>
+
 #include "win32/registry_key.h"
 
 namespace brimwork::bench {
 namespace {
 
-constexpr const char* kAddIns = "Software\\Microsoft\\Visual Basic\\6.0\\Addins";
+constexpr const char* kVisualBasicList = "Software\\Microsoft\\Visual Basic\\6.0\\Addins";
+constexpr const char* kEditorsOf64BitsList = "Software\\Microsoft\\VBA\\VBE\\6.0\\Addins64";
+
+/// Visual Basic 6 has 32 bits only, so what is made for 64 is in a list of other editors.
+std::vector<std::string> Lists() {
+  if constexpr (sizeof(void*) == 8) return {kVisualBasicList, kEditorsOf64BitsList};
+  return {kVisualBasicList};
+}
 
 RegisteredAddIn Read(const win32::RegistryKey& all, const std::string& progId) {
   const win32::RegistryKey key(all.Get(), progId, KEY_READ);
@@ -23,14 +32,24 @@ RegisteredAddIn Read(const win32::RegistryKey& all, const std::string& progId) {
 
 std::vector<RegisteredAddIn> RegisteredAddIns() {
   std::vector<RegisteredAddIn> addIns;
-  const win32::RegistryKey all(HKEY_CURRENT_USER, kAddIns, KEY_READ);
-  if (!all.IsOpen()) return addIns;
-  for (const std::string& progId : all.Keys()) addIns.push_back(Read(all, progId));
+  std::set<std::string> known;
+  for (const std::string& list : Lists()) {
+    const win32::RegistryKey all(HKEY_CURRENT_USER, list, KEY_READ);
+    if (!all.IsOpen()) continue;
+    for (const std::string& progId : all.Keys()) {
+      if (known.insert(progId).second) addIns.push_back(Read(all, progId));
+    }
+  }
   return addIns;
 }
 
 void SetLoadBehavior(const std::string& progId, unsigned long behavior) {
-  win32::RegistryKey::Make(HKEY_CURRENT_USER, std::string(kAddIns) + "\\" + progId)
+  for (const std::string& list : Lists()) {
+    const std::string path = list + "\\" + progId;
+    if (!win32::RegistryKey(HKEY_CURRENT_USER, path, KEY_READ).IsOpen()) continue;
+    return win32::RegistryKey::Make(HKEY_CURRENT_USER, path).SetNumber("LoadBehavior", behavior);
+  }
+  win32::RegistryKey::Make(HKEY_CURRENT_USER, std::string(kVisualBasicList) + "\\" + progId)
       .SetNumber("LoadBehavior", behavior);
 }
 
