@@ -1,6 +1,9 @@
 #include "windows/desktop/control_rich_text.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <utility>
 
 #include "environment/text.h"
 #include "environment/utf8.h"
@@ -32,12 +35,17 @@ class Conversion {
   std::string Run() {
     document_.reserve(streamed_.size() + streamed_.size() / 8);
     TakeOpening();
-    while (!streamed_.empty()) TakePlain(), TakeSpecial();
+    while (!streamed_.empty()) {
+      TakePlain();
+      TakeSpecial();
+    }
     Close();
     return std::move(document_);
   }
 
  private:
+  static constexpr const char* kOpening = "{\\rtf1\\ansi";
+
   static bool IsSpecial(char c) { return c == '\\' || static_cast<unsigned char>(c) >= 0x80; }
 
   void Take(std::size_t size) {
@@ -45,11 +53,13 @@ class Conversion {
     streamed_.remove_prefix(size);
   }
 
-  /// The control marks UTF-8 by a word that other programs do not know.
+  /// Of an empty selection a control may give nothing. It marks UTF-8 by a word that other programs
+  /// do not know.
   void TakeOpening() {
+    if (streamed_.empty()) document_ = kOpening;
     constexpr std::string_view kOfControl = "{\\urtf";
     if (!streamed_.starts_with(kOfControl)) return;
-    document_ += "{\\rtf1\\ansi";
+    document_ = kOpening;
     streamed_.remove_prefix(kOfControl.size());
     while (!streamed_.empty() && IsDigit(streamed_.front())) streamed_.remove_prefix(1);
   }
@@ -70,8 +80,22 @@ class Conversion {
 
   void TakeWord() {
     const std::string_view word = WordAt(streamed_.substr(1));
+    if (word == "u" && TakeStandInByNumber()) return;
     if (word == "par") --paragraphs_;
     Take(std::min(streamed_.size(), std::max<std::size_t>(2, 1 + word.size())));
+  }
+
+  /// A control may give a character by its number; what stands behind that is for readers that do
+  /// not know the word, and stays.
+  bool TakeStandInByNumber() {
+    constexpr std::size_t kWordSize = 2;  // with its backslash
+    const char* const start = streamed_.data() + kWordSize;
+    int number = 0;
+    const auto [end, error] = std::from_chars(start, streamed_.data() + streamed_.size(), number);
+    if (error != std::errc() || static_cast<wchar_t>(number) != kStandIn) return false;
+    streamed_.remove_prefix(static_cast<std::size_t>(end - streamed_.data()));
+    AppendNumber(document_, NextStoodFor());
+    return true;
   }
 
   void TakeCharacter() {

@@ -39,6 +39,16 @@ TEST(PortableRichText, PutsCharactersInPlaceOfTheirStandIns) {
   EXPECT_EQ(TextOf("{\\urtf1 " + TextOfUnits(held) + "}", units), TextOfUnits(units));
 }
 
+TEST(PortableRichText, KnowsStandInsThatAreGivenByTheirNumbers) {
+  const std::wstring units{L'\t', 0x01, L'x'};
+  EXPECT_EQ(TextOf("{\\urtf1 \\u-1793?\\u63743\\'3fx\\u228?}", units), "\t\x01xä");
+}
+
+TEST(PortableRichText, IsADocumentWhereTheControlGivesNothing) {
+  EXPECT_EQ(PortableRichText("", L""), "{\\rtf1\\ansi\\par\r\n}\r\n");
+  EXPECT_EQ(TextOf("", L""), "");
+}
+
 TEST(WithStandIns, LeavesWhatAControlHolds) {
   const std::wstring units = L"ab\rä日\U0001F600\x7F\xA0\xE000";
   EXPECT_TRUE(WithStandIns(units) == units);
