@@ -14,7 +14,8 @@ endforeach()
 string(REPLACE "." "," BRIMWORK_VERSION_NUMBERS "${PROJECT_VERSION}.0")
 configure_file(${CMAKE_CURRENT_LIST_DIR}/brimwork.rc.in ${CMAKE_CURRENT_BINARY_DIR}/brimwork.rc @ONLY)
 
-add_library(Brimwork MODULE windows/library/entry_points.cpp windows/library/Brimwork.def
+add_library(Brimwork MODULE windows/library/entry_points.cpp windows/library/tick_count.cpp
+  windows/library/Brimwork.def
   ${CMAKE_CURRENT_BINARY_DIR}/brimwork.rc)
 set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/brimwork.rc PROPERTIES
   OBJECT_DEPENDS "${pictures}")

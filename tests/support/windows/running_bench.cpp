@@ -90,8 +90,7 @@ RunningBench::RunningBench() {
 }
 
 RunningBench::~RunningBench() {
-  vbe_ = nullptr;
-  TerminateProcess(process_.hProcess, 1);
+  if (!Close()) TerminateProcess(process_.hProcess, 1);
   WaitForSingleObject(process_.hProcess, 5000);
   CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
@@ -163,14 +162,17 @@ void RunningBench::Connect(bool connects) {
 }
 
 nlohmann::json RunningBench::End() {
+  if (!Close()) throw std::runtime_error("the bench does not end");
+  return nlohmann::json::parse(ReadBytes(folder_ / kReport));
+}
+
+bool RunningBench::Close() {
   vbe_ = nullptr;
   PostMessageW(mainWindow_, WM_CLOSE, 0, 0);
-  const bool hasEnded = WaitUntil([&] {
+  return WaitUntil([&] {
     AnswerQuestions();
     return WaitForSingleObject(process_.hProcess, 0) == WAIT_OBJECT_0;
   });
-  if (!hasEnded) throw std::runtime_error("the bench does not end");
-  return nlohmann::json::parse(ReadBytes(folder_ / kReport));
 }
 
 /// Changes to the projects are not saved.

@@ -50,6 +50,8 @@ class RunningBench {
   void Start();
   void FindVbe();
   void WaitForProject();
+  /// False when it does not end within ten seconds.
+  bool Close();
   void AnswerQuestions();
 
   TemporaryFolder folder_;
