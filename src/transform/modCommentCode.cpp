@@ -76,11 +76,11 @@ void PutSeparatorBelow(CodeModule& module, int line, std::string_view separator)
 void CloseFrame(const ProcedureLines& procedure, std::string_view separator,
                 std::string_view signature) {
   CodeModule& module = procedure.module;
-  const auto closing = FindClosingLine(module, procedure.Body(), procedure.Behind() - 1);
+  const auto closing = FindClosing(module, procedure.Body(), procedure.Behind() - 1);
   if (!closing) return;
-  DeleteEmptyLinesAt(module, procedure.Behind());
-  LabelClosingLine(procedure, *closing, signature);
-  PutSeparatorBelow(module, procedure.Behind() - 1, separator);
+  DeleteEmptyLinesAt(module, closing->statementEnd + 1);
+  LabelClosingLine(procedure, closing->line, signature);
+  PutSeparatorBelow(module, closing->statementEnd, separator);
 }
 
 void OpenFrame(CodeModule& module, int firstOwnLine, std::string_view separator) {

@@ -66,6 +66,21 @@ CurrentProcedure ReadBounds(CodeModule& module, const ProcedureName& found) {
   return procedure;
 }
 
+std::optional<int> ClosingLineWithin(CodeModule& module, int statementStart, int statementEnd) {
+  Continues above = Continues::kNothing;
+  for (int line = statementStart; line <= statementEnd; ++line) {
+    const std::string text = module.Lines(line, 1);
+    if (ClosesProcedure(text, above)) return line;
+    above = ContinuedBelow(text, above);
+  }
+  return std::nullopt;
+}
+
+bool CanStandBelowProcedures(const std::string& line) {
+  return IsBlankLine(line) || IsCommentLine(line, Continues::kNothing) ||
+         IsConditionalCompilationLine(line);
+}
+
 }  // namespace
 
 int GetProcedureBounds(Context& context, CodeModule& module, int line) {
@@ -86,14 +101,20 @@ int GetProcedureBounds(Context& context, CodeModule& module, int line) {
   return record.CurrentProcEnd + 1;
 }
 
-std::optional<int> FindClosingLine(CodeModule& module, int firstLine, int lastLine) {
-  Continues above = Continues::kNothing;
-  for (int line = StatementStart(module, lastLine, firstLine); line <= lastLine; ++line) {
-    const std::string text = module.Lines(line, 1);
-    if (ClosesProcedure(text, above)) return line;
-    above = ContinuedBelow(text, above);
+std::optional<ClosingLine> FindClosing(CodeModule& module, int firstLine, int lastLine) {
+  for (int end = lastLine; end >= firstLine;) {
+    const int start = StatementStart(module, end, firstLine);
+    if (const auto line = ClosingLineWithin(module, start, end)) return ClosingLine{*line, end};
+    if (!CanStandBelowProcedures(module.Lines(start, 1))) return std::nullopt;
+    end = start - 1;
   }
   return std::nullopt;
+}
+
+std::optional<int> FindClosingLine(CodeModule& module, int firstLine, int lastLine) {
+  const auto closing = FindClosing(module, firstLine, lastLine);
+  if (!closing) return std::nullopt;
+  return closing->line;
 }
 
 int StatementStart(CodeModule& module, int line, int firstLine) {

@@ -14,8 +14,16 @@ namespace brimwork {
 /// procedure. A failing query empties the record before the error goes on.
 int GetProcedureBounds(Context& context, CodeModule& module, int line);
 
-/// The line with the procedure's own End Sub, End Function or End Property, in any letter case;
-/// nothing when it has none. firstLine is the line of its declaration, lastLine its last line.
+/// Where a procedure ends.
+struct ClosingLine {
+  int line = 0;          // the one with the procedure's own End Sub, End Function or End Property
+  int statementEnd = 0;  // the last line of the statement that it is in
+};
+
+/// Nothing when the procedure has no closing line, in any letter case. firstLine is the line of its
+/// declaration, lastLine its last line: environments count what stands below the module's last
+/// procedure to it, too, which is comments, blank lines and conditional compilation.
+std::optional<ClosingLine> FindClosing(CodeModule& module, int firstLine, int lastLine);
 std::optional<int> FindClosingLine(CodeModule& module, int firstLine, int lastLine);
 
 /// The first line of the statement or comment that the line belongs to, not above firstLine.

@@ -55,6 +55,9 @@ class CommandedModule {
  public:
   explicit CommandedModule(const std::string& text) : CommandedModule(ModuleText::FromText(text)) {}
 
+  /// As editors do, from now on.
+  void GiveLinesBelowToTheLastProcedure() { pane_->Code()->GiveLinesBelowToTheLastProcedure(); }
+
   explicit CommandedModule(ModuleText text)
       : pane_(memory_.Open("Module1", std::move(text))), addIn_(memory_.Parts()) {
     addIn_.onSkippedError = [this](const RunTimeError&) { ++skippedErrors_; };
