@@ -120,17 +120,18 @@ void FormWindow::Destroy() {
 
 void FormWindow::Changed(Control* control, PropertyId property) {
   const MessageScope scope(*this);
-  if (control == nullptr) {
-    if (property == PropertyId::kCaption)
-      SetWindowTextW(handle_, win32::Wide(form_->Caption.Get()).c_str());
-    return;
-  }
+  if (control == nullptr) return ShowOwn(property);
   if (control->Kind() == ControlKind::kTimer) return ShowTimer(*control);
   if (ControlWindow* const window = WindowOf(*control)) window->Show(property);
   const bool changesUse = property == PropertyId::kEnabled || property == PropertyId::kVisible;
   if (changesUse) ShowUse(*control);
   if (property == PropertyId::kFocus) ShowFocus();
   if (changesUse || property == PropertyId::kFocus) ShowDefaultButton();
+}
+
+void FormWindow::ShowOwn(PropertyId property) {
+  if (property != PropertyId::kCaption) return;
+  SetWindowTextW(handle_, win32::Wide(form_->Caption.Get()).c_str());
 }
 
 void FormWindow::Refresh(Control& control) {
@@ -145,6 +146,13 @@ void FormWindow::Refresh(Control& control) {
 ControlWindow* FormWindow::WindowOf(const Control& control) const {
   const auto found =
       std::ranges::find_if(controls_, [&](const auto& window) { return window->IsOf(control); });
+  return found == controls_.end() ? nullptr : found->get();
+}
+
+ControlWindow* FormWindow::WindowOf(HWND handle) const {
+  if (handle == nullptr) return nullptr;
+  const auto found = std::ranges::find_if(
+      controls_, [&](const auto& window) { return window->Handle() == handle; });
   return found == controls_.end() ? nullptr : found->get();
 }
 

@@ -96,6 +96,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
 
   /// The window of a control; null for one that is not seen.
   ControlWindow* WindowOf(const Control& control) const;
+  /// Null for a window that is no control's.
+  ControlWindow* WindowOf(HWND handle) const;
 
  private:
   static constexpr UINT kShowFocus = WM_APP;
@@ -135,6 +137,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   bool PressAccessKey(WPARAM key);
   bool HasAccessKey(char key);
 
+  void ShowOwn(PropertyId property);
   void ShowUse(const Control& container);
   void ShowTimer(const Control& control);
   void ShowDefaultButton();
@@ -147,7 +150,8 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   ToolTips tips_;
   IconObject largeIcon_, smallIcon_;
   std::unique_ptr<OtherWindowsDisabled> modal_;
-  int depth_ = 0;
+  std::shared_ptr<FormWindow> untilDestroyed_;  // itself, while the system destroys the window
+  int depth_ = 0;                               // of messages that are being handled
   bool isShowingFocus_ = false;
 };
 

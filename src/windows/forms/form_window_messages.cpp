@@ -14,6 +14,14 @@ constexpr WPARAM kLineFeedCharacter = 10;
 constexpr WPARAM kReturnCharacter = 13;
 constexpr WPARAM kEscapeCharacter = 27;
 
+/// The window that tells the one around it something; null for messages of another kind.
+HWND SenderOf(UINT message, LPARAM longer) {
+  const bool isAboutColors = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+  if (message == WM_COMMAND || isAboutColors) return reinterpret_cast<HWND>(longer);
+  const auto* const notification = reinterpret_cast<const NMHDR*>(longer);
+  return message == WM_NOTIFY && notification != nullptr ? notification->hwndFrom : nullptr;
+}
+
 bool IsDown(int key) { return GetKeyState(key) < 0; }
 
 std::optional<Key> FormKey(WPARAM key) {
@@ -61,6 +69,7 @@ LRESULT FormWindow::ReceiveAt(HWND handle, UINT message, WPARAM wide, LPARAM lon
     SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
     std::erase(kit_->activated, handle);
     handle_ = nullptr;
+    untilDestroyed_.reset();
   }
   if (message == WM_DESTROY && handle_ == handle) TakeDestruction();
   if (handle_ != handle || !IsLoaded()) return DefWindowProcW(handle, message, wide, longer);
@@ -104,29 +113,25 @@ LRESULT FormWindow::Receive(UINT message, WPARAM wide, LPARAM longer) {
   return handle_ != nullptr ? DefWindowProcW(handle_, message, wide, longer) : 0;
 }
 
-// With its owner a window goes, too.
+// With its owner a window goes, too. The windows in it go behind this message.
 void FormWindow::TakeDestruction() {
+  untilDestroyed_ = shared_from_this();
   EndModal();
   Tell([this] { form_->Unload(); });
+  handle_ = nullptr;
 }
 
 std::optional<LRESULT> FormWindow::GiveBack(UINT message, WPARAM wide, LPARAM longer) {
-  const auto senderOf = [this](HWND handle) -> ControlWindow* {
-    const auto found = std::ranges::find_if(
-        controls_, [&](const auto& window) { return window->Handle() == handle; });
-    return handle == nullptr || found == controls_.end() ? nullptr : found->get();
-  };
-  const auto* const notification = reinterpret_cast<const NMHDR*>(longer);
-  const bool isNotification = message == WM_NOTIFY && notification != nullptr;
-  const bool isSent = message == WM_COMMAND || isNotification ||
-                      (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC);
-  if (!isSent) return std::nullopt;
-  ControlWindow* const sender =
-      senderOf(isNotification ? notification->hwndFrom : reinterpret_cast<HWND>(longer));
+  ControlWindow* const sender = WindowOf(SenderOf(message, longer));
   if (sender == nullptr) return std::nullopt;
-  if (message == WM_COMMAND) return sender->OnCommand(HIWORD(wide)), 0;
-  if (isNotification) return sender->OnNotification(notification->code), 0;
-  return sender->OnColors(reinterpret_cast<HDC>(wide));
+  if (message == WM_COMMAND) {
+    sender->OnCommand(HIWORD(wide));
+  } else if (message == WM_NOTIFY) {
+    sender->OnNotification(reinterpret_cast<const NMHDR*>(longer)->code);
+  } else {
+    return sender->OnColors(reinterpret_cast<HDC>(wide));
+  }
+  return 0;
 }
 
 void FormWindow::PaintBackground(HDC context) {

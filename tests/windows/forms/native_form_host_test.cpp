@@ -72,6 +72,18 @@ TEST(NativeFormHost, ADropDownListIsAsHighAsItsPlace) {
   EXPECT_EQ(list.bottom, 96 + 21);
 }
 
+TEST(NativeFormHost, ADropDownListShowsAllOfItsFewItems) {
+  NativeSample sample;
+  const HWND window = sample.WindowOf(sample.form.cmbWords);
+  SendMessageW(window, CB_SHOWDROPDOWN, TRUE, 0);
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof info;
+  GetComboBoxInfo(window, &info);
+  RECT inside;
+  GetClientRect(info.hwndList, &inside);
+  EXPECT_GE(inside.bottom, 3 * SendMessageW(window, CB_GETITEMHEIGHT, 0, 0));
+}
+
 TEST(NativeFormHost, LengthsGrowWithTheScreensDots) {
   NativeForms forms;
   NativeFormHost host({}, {}, {}, ScreenScale{144});
@@ -196,8 +208,15 @@ TEST(NativeFormHost, AHandlerThatFailsItselfIsPassedOver) {
 TEST(NativeFormHost, AFormMayUnloadItselfInItsOwnClick) {
   NativeSample sample;
   const HWND window = sample.WindowOf(sample.form);
-  sample.form.cmdOk.OnClick = [&] { sample.form.Unload(); };
+  bool isThere = false, isSeen = true;
+  sample.form.cmdOk.OnClick = [&] {
+    sample.form.Unload();
+    isThere = IsWindow(window);
+    isSeen = IsWindowVisible(window);
+  };
   SendMessageW(sample.WindowOf(sample.form.cmdOk), BM_CLICK, 0, 0);
+  EXPECT_TRUE(isThere) << "the system is still at work in it";
+  EXPECT_FALSE(isSeen);
   EXPECT_FALSE(sample.form.IsLoaded());
   EXPECT_FALSE(IsWindow(window));
 }
@@ -244,8 +263,10 @@ TEST(NativeFormHost, AFormMayBeDestroyedByAnyOfItsEvents) {
 
 TEST(NativeFormHost, AWindowThatGoesWithItsOwnerUnloadsTheForm) {
   NativeSample sample;
+  const HWND window = sample.WindowOf(sample.form);
   DestroyWindow(sample.owner);
   EXPECT_FALSE(sample.form.IsLoaded());
+  EXPECT_FALSE(IsWindow(window));
   EXPECT_THAT(sample.form.events, Contains("Form_Unload"));
 }
 
@@ -289,13 +310,33 @@ TEST(NativeFormHost, ManyFormsLeaveNoObjectsOfTheSystemsBehind) {
   EXPECT_EQ(counts(), before);
 }
 
+HWND TipsOf(HWND form) {
+  HWND tips = nullptr;
+  while ((tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+    if (GetWindow(tips, GW_OWNER) == form) break;
+  }
+  return tips;
+}
+
+TEST(NativeFormHost, AToolTipAppearsWhereThePointerRests) {
+  NativeSample sample;
+  BRIMWORK_NEEDS_KEYBOARD(sample);
+  const HWND tips = TipsOf(sample.WindowOf(sample.form));
+  RECT box;
+  GetWindowRect(sample.WindowOf(sample.form.txtName), &box);
+  SetCursorPos(box.left - 30, box.top + 5);
+  sample.Wait(50);
+  EXPECT_FALSE(IsWindowVisible(tips));
+  SetCursorPos(box.left + 10, box.top + 5);
+  sample.Wait(GetDoubleClickTime() + 400);
+  EXPECT_TRUE(IsWindowVisible(tips));
+  EXPECT_EQ(sample.form.events, std::vector<std::string>());
+}
+
 TEST(NativeFormHost, EachControlAndTabHasItsToolTip) {
   NativeSample sample;
   sample.form.txtName.ToolTipText = "Another tip";
-  HWND tips = nullptr;
-  while ((tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
-    if (GetWindow(tips, GW_OWNER) == sample.WindowOf(sample.form)) break;
-  }
+  const HWND tips = TipsOf(sample.WindowOf(sample.form));
   ASSERT_NE(tips, nullptr);
   const auto textOf = [&](const Control& control, UINT_PTR part) {
     wchar_t text[200] = {};
