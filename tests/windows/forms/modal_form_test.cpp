@@ -1,6 +1,8 @@
 // Forms that are shown modal.
 #include <gmock/gmock.h>
 
+#include <thread>
+
 #include "windows/forms/native_forms.h"
 
 namespace brimwork::windows {
@@ -104,18 +106,15 @@ TEST(ModalForm, TheEndOfTheProgramHidesItAndIsPassedOn) {
 
 TEST(ModalForm, EndsWhenAMessageFromAnotherThreadUnloadsIt) {
   ModalSample sample;
-  HANDLE thread = nullptr;
+  std::thread other;
   sample.ShowModal([&] {
-    const auto close = [](void* window) -> DWORD {
+    other = std::thread([window = sample.WindowOf(sample.form)] {
       Sleep(50);
-      SendMessageW(static_cast<HWND>(window), WM_CLOSE, 0, 0);
-      return 0;
-    };
-    thread = CreateThread(nullptr, 0, close, sample.WindowOf(sample.form), 0, nullptr);
+      SendMessageW(window, WM_CLOSE, 0, 0);
+    });
   });
   EXPECT_FALSE(sample.form.IsLoaded());
-  WaitForSingleObject(thread, 5000);
-  CloseHandle(thread);
+  other.join();
 }
 
 }  // namespace modal_form_test

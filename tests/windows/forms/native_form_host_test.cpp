@@ -205,6 +205,17 @@ TEST(NativeFormHost, AHandlerThatFailsItselfIsPassedOver) {
   EXPECT_TRUE(form.IsLoaded());
 }
 
+TEST(NativeFormHost, WhatKeepsTheFormsIsHeldWhileAnEventIsHandled) {
+  NativeSample sample;
+  const auto kept = std::make_shared<int>();
+  sample.host.KeepAliveBy([&] { return kept; });
+  long heldMeanwhile = 0;
+  sample.form.cmdOk.OnClick = [&] { heldMeanwhile = kept.use_count(); };
+  SendMessageW(sample.WindowOf(sample.form.cmdOk), BM_CLICK, 0, 0);
+  EXPECT_GT(heldMeanwhile, 1);
+  EXPECT_EQ(kept.use_count(), 1);
+}
+
 TEST(NativeFormHost, AFormMayUnloadItselfInItsOwnClick) {
   NativeSample sample;
   const HWND window = sample.WindowOf(sample.form);
