@@ -51,6 +51,7 @@ class FaultyDispatch final : public IDispatch {
     const bool fails = calls_.Fails(name);
     if (fails && FAILED(calls_.Answer())) return calls_.Answer();
     if (fails && name == "Add") return AnswerNothing(result);
+    if (calls_.onCall) calls_.onCall(name, *parameters);
     std::vector<Variant> arguments = Behind(*parameters);
     std::vector<VARIANTARG> reversed;
     for (const Variant& argument : arguments) reversed.push_back(argument.Get());

@@ -37,6 +37,9 @@ class DispatchCalls {
   }
   HRESULT Answer() const { return RanAway() ? E_FAIL : fault_.answer; }
 
+  /// Called with each call that goes through; may be empty.
+  std::function<void(const std::string& member, const DISPPARAMS& parameters)> onCall;
+
   /// The number of a member is asked for once, but each object in front has to know its name.
   void NoteName(const std::string& name) { names_.insert(name); }
   const std::set<std::string>& Names() const { return names_; }
