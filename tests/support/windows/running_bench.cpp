@@ -34,7 +34,9 @@ BOOL CALLBACK NoteShown(HWND window, LPARAM data) {
   auto& search = *reinterpret_cast<WindowSearch*>(data);
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
-  if (process == search.process && IsWindowVisible(window)) search.found.push_back(window);
+  const bool isIt = process == search.process && IsWindowVisible(window) &&
+                    !IsOfClass(window, "tooltips_class32");
+  if (isIt) search.found.push_back(window);
   return TRUE;
 }
 
@@ -51,16 +53,19 @@ std::string WithoutAccessKeys(std::string text) {
 
 BOOL CALLBACK NoteChild(HWND window, LPARAM data) {
   auto& search = *reinterpret_cast<ChildSearch*>(data);
-  wchar_t name[64] = {};
-  GetClassNameW(window, name, 64);
-  const bool isOfClass = lstrcmpiW(name, win32::Wide(search.windowClass).c_str()) == 0;
-  const bool isIt = isOfClass && IsWindowVisible(window) &&
+  const bool isIt = IsOfClass(window, search.windowClass) && IsWindowVisible(window) &&
                     (search.text.empty() || WithoutAccessKeys(TitleOf(window)) == search.text);
   if (isIt) search.found = window;
   return isIt ? FALSE : TRUE;
 }
 
 }  // namespace
+
+bool IsOfClass(HWND window, const std::string& windowClass) {
+  wchar_t name[64] = {};
+  GetClassNameW(window, name, 64);
+  return lstrcmpiW(name, win32::Wide(windowClass).c_str()) == 0;
+}
 
 std::string TitleOf(HWND window) {
   std::wstring text(1024, L'\0');

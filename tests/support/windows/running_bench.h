@@ -33,7 +33,7 @@ class RunningBench {
   /// The component's code pane, made the active one.
   bench::Client OpenModule(const std::string& component);
 
-  /// Its top-level windows that are shown, the main window not among them.
+  /// Its top-level windows that are shown, without the main window and tool tips.
   std::vector<HWND> OtherWindows() const;
   /// The one of them with this title, null when it does not come within ten seconds.
   HWND WaitForWindow(const std::string& title) const;
@@ -59,6 +59,9 @@ class RunningBench {
   win32::ComPointer<IDispatch> vbe_;
   HWND mainWindow_ = nullptr;
 };
+
+/// Whether a window of any program has this class, in any letter case.
+bool IsOfClass(HWND window, const std::string& windowClass);
 
 /// The text of a window of any program.
 std::string TitleOf(HWND window);

@@ -56,7 +56,12 @@ void PressKey(WORD key, const std::vector<WORD>& held) {
 }
 
 void PressKeys(WORD key, int times) {
-  for (int i = 0; i < times; ++i) PressKey(key);
+  std::vector<INPUT> inputs;
+  for (int i = 0; i < times; ++i) {
+    inputs.push_back(KeyInput(key, 0));
+    inputs.push_back(KeyInput(key, KEYEVENTF_KEYUP));
+  }
+  if (times > 0) Send(std::move(inputs));
 }
 
 void TypeText(std::string_view text) {
