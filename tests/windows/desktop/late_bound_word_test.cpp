@@ -5,7 +5,7 @@
 
 #include "environment/resume_next.h"
 #include "support/windows/fake_dispatch.h"
-#include "win32/registry_key.h"
+#include "support/windows/registered_program.h"
 
 namespace brimwork::windows {
 namespace late_bound_word_test {
@@ -133,58 +133,10 @@ TEST(LateBoundWords, RaiseErrorFourHundredAndTwentyNineWithoutTheProgram) {
   }
 }
 
-/// Hands out one object.
-class OneObject : public IClassFactory {
- public:
-  explicit OneObject(IDispatch* object) : object_(object) {}
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-    const bool isKnown = IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IClassFactory);
-    *object = isKnown ? this : nullptr;
-    return isKnown ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID iid, void** object) override {
-    return object_->QueryInterface(iid, object);
-  }
-  HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
-
- private:
-  IDispatch* object_;
-};
-
-/// A program that the system knows by a name as long as this lives; it runs in this process.
-class RegisteredProgram {
- public:
-  static constexpr const char* kName = "BrimworkTest.Word";
-
-  explicit RegisteredProgram(IDispatch* object) : factory_(object) {
-    CoInitialize(nullptr);
-    win32::RegistryKey::Make(HKEY_CLASSES_ROOT, kName + std::string("\\CLSID")).SetText("", kId);
-    CLSID id;
-    CLSIDFromString(win32::Wide(kId).c_str(), &id);
-    EXPECT_EQ(CoRegisterClassObject(id, &factory_, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE,
-                                    &registration_),
-              S_OK);
-  }
-  ~RegisteredProgram() {
-    CoRevokeClassObject(registration_);
-    win32::RemoveKey(HKEY_CLASSES_ROOT, kName);
-    CoUninitialize();
-  }
-
- private:
-  static constexpr const char* kId = "{6D2A6E0B-3C5B-4C0B-9B1E-52C8C1B1B0A7}";
-
-  OneObject factory_;
-  DWORD registration_ = 0;
-};
-
 TEST(LateBoundWords, StartTheProgramOfAName) {
   FakeWord fake;
-  const RegisteredProgram program(fake.application.get());
-  const auto word = LateBoundWords().CreateObject(RegisteredProgram::kName);
+  const RegisteredProgram program("BrimworkTest.Word", fake.application.get());
+  const auto word = LateBoundWords().CreateObject("BrimworkTest.Word");
   word->AddDocument();
   word->Quit();
   EXPECT_THAT(MembersOf(*fake.documents), ElementsAre("Add"));
