@@ -44,6 +44,11 @@ class BenchSuite : public ::testing::Test {
   static inline std::unique_ptr<RunningBench> bench_;
 };
 
+/// Names the tests of an entry given by its handler's number.
+inline std::string HandlerName(const ::testing::TestParamInfo<int>& each) {
+  return "Handler" + std::to_string(each.param);
+}
+
 inline bench::Client BenchSuite::ShowText(const std::string& component, const std::string& text,
                                           int line, int column) {
   using win32::Variant;

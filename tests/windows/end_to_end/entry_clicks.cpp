@@ -99,6 +99,17 @@ std::vector<std::string> PathTo(const CatalogueEntry& entry) {
   return path;
 }
 
+const CatalogueEntry& EntryOfHandler(int handler) {
+  for (const CatalogueEntry& entry : Catalogue()) {
+    if (entry.handler == handler) return entry;
+  }
+  throw std::out_of_range("no entry has the handler " + std::to_string(handler));
+}
+
+void ClickEntry(const RunningBench& bench, int handler) {
+  ClickEntry(bench, EntryOfHandler(handler));
+}
+
 void ClickEntry(const RunningBench& bench, const CatalogueEntry& entry) {
   if (entry.place == EntryPlace::kToolbar) return ClickOnToolbar(bench, PathTo(entry));
   if (entry.place == EntryPlace::kAddInsMenu) {
