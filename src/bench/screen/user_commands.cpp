@@ -143,8 +143,9 @@ void UserCommands::ShowState(int command, bool isEnabled) {
   parts_.bench.vbe.commandBars.SetEnabled(command, isEnabled);
 }
 
-bool UserCommands::TakesKey(MSG& message) {
-  if (find_.TakesKey(message)) return true;
+bool UserCommands::TakesKeyOfDialog(MSG& message) const { return find_.TakesKey(message); }
+
+bool UserCommands::TakesKeyOfCommand(const MSG& message) {
   const int command = CommandOfKey(message);
   if (command == command::kNone) return false;
   parts_.host.RunCommand(command);

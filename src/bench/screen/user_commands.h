@@ -29,8 +29,10 @@ class UserCommands {
   /// Shows which commands can be done now.
   void ShowStates();
 
-  /// True when the key is a command's, or the Find dialog's.
-  bool TakesKey(MSG& message);
+  // True when the key is what they ask for.
+
+  bool TakesKeyOfDialog(MSG& message) const;
+  bool TakesKeyOfCommand(const MSG& message);
 
   /// Opens a project or a source file, and a window for it. Throws what Workbench::Open throws.
   void Open(const std::filesystem::path& path);

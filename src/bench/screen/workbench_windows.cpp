@@ -209,8 +209,12 @@ void WorkbenchWindows::OnMouse(UINT message, POINT place) {
   }
 }
 
+// An add-in's window has keys of its own.
 bool WorkbenchWindows::TakesKey(MSG& message) {
-  return commands_.TakesKey(message) || TranslateMDISysAccel(frame_.Client(), &message) != 0;
+  if (commands_.TakesKeyOfDialog(message)) return true;
+  if (GetAncestor(message.hwnd, GA_ROOT) != frame_.Handle()) return false;
+  return commands_.TakesKeyOfCommand(message) ||
+         TranslateMDISysAccel(frame_.Client(), &message) != 0;
 }
 
 std::intptr_t WorkbenchWindows::HandleOf(const MemoryWindow& window) {

@@ -40,7 +40,7 @@ class WorkbenchWindows : public Surface, private ScreenHost, private FrameEvents
   /// Draws all that waits to be drawn.
   void Settle();
 
-  /// The keys that are commands wherever the focus is; true when the message was one of them. The
+  /// The keys that are commands wherever in the main window the focus is; true when the message was one of them. The
   /// message loop asks before it dispatches.
   bool TakesKey(MSG& message);
 

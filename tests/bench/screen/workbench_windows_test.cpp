@@ -268,6 +268,20 @@ TEST_F(WorkbenchOnScreen, KnowsTheKeysOfItsCommands) {
   EXPECT_EQ(bench.vbe.ActiveWindow(), bench.windows.properties);
 }
 
+TEST_F(WorkbenchOnScreen, LeavesTheirKeysToTheWindowsOfOthers) {
+  const auto code = OpenModule().ContainingWindow();
+  const HWND other = CreateWindowExW(0, L"EDIT", L"An add-in's", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                     50, 50, 200, 100, windows->Frame(), nullptr, nullptr, nullptr);
+  SetForegroundWindow(other);
+  SetFocus(other);
+  Press({VK_CONTROL, 'G'});
+  Press({VK_CONTROL, VK_F4});
+  Pump();
+  EXPECT_EQ(bench.vbe.ActiveWindow(), code);
+  EXPECT_TRUE(code->Visible());
+  DestroyWindow(other);
+}
+
 TEST_F(WorkbenchOnScreen, GoesRoundItsWindowsWithControlF6) {
   const auto code = OpenModule().ContainingWindow();
   bench.PaneOf(form);
