@@ -83,7 +83,7 @@ bool AskForPath(const SaveFileRequest& request, HWND owner, std::wstring& buffer
 }  // namespace
 
 int SystemDialogs::MsgBox(std::string_view prompt, int style, std::string_view title) {
-  const int button = MessageBoxW(ShownOwner(0), Wide(prompt).c_str(), Wide(title).c_str(),
+  const int button = MessageBoxW(WindowInUse(), Wide(prompt).c_str(), Wide(title).c_str(),
                                  static_cast<UINT>(style));
   if (button <= 0) RaiseSystemError("MessageBox");
   return button;
@@ -110,6 +110,11 @@ bool SystemDialogs::GetSaveFileName(SaveFileRequest& request) {
   if (!AskForPath(request, ShownOwner(request.owner), buffer)) return false;
   PutPath(win32::Narrow(buffer.c_str()), request.file);
   return true;
+}
+
+HWND SystemDialogs::WindowInUse() const {
+  HWND active = GetActiveWindow();
+  return active != nullptr && IsWindowVisible(active) ? active : mainWindow_();
 }
 
 HWND SystemDialogs::ShownOwner(WindowHandle owner) const {

@@ -27,6 +27,8 @@ class SystemDialogs : public Dialogs {
   bool GetSaveFileName(SaveFileRequest& request) override;
 
  private:
+  /// The active one, as for the run time's message boxes; else the main window.
+  HWND WindowInUse() const;
   HWND ShownOwner(WindowHandle owner) const;
 
   std::function<HWND()> mainWindow_;

@@ -82,6 +82,23 @@ TEST_F(SystemDialogsTest, AMessageBoxSaysWhatItIsToldAndGivesTheButton) {
   EXPECT_EQ(owner, main_);
 }
 
+TEST_F(SystemDialogsTest, AMessageBoxBelongsToTheWindowThatTheUserWorksIn) {
+  HWND form = CreateWindowExW(0, L"STATIC", L"Brimwork form", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40,
+                              40, 300, 100, main_, nullptr, nullptr, nullptr);
+  SetActiveWindow(form);
+  HWND owner = nullptr;
+  {
+    const DialogAnswer answer(L"Brimwork", [&](HWND box) {
+      owner = GetWindow(box, GW_OWNER);
+      DialogAnswer::Press(box, IDOK);
+    });
+    dialogs_.MsgBox("Done.", message_box::kOkOnly, "Brimwork");
+  }
+  EXPECT_EQ(owner, form);
+  EXPECT_EQ(GetActiveWindow(), form);
+  DestroyWindow(form);
+}
+
 TEST_F(SystemDialogsTest, ThePlainBoxHasTheOwnerThatIsGiven) {
   HWND owner = nullptr;
   bool wasDisabled = false;
