@@ -32,6 +32,11 @@ ComVbe::ComVbe(ComPointer<IDispatch> vbe, Patience patience, std::shared_ptr<con
     : vbe_(std::move(vbe), NewConnection(std::move(patience), std::move(inUse)), ObjectKind::kVbe) {
 }
 
+void ComVbe::End() {
+  vbe_.Connected()->hasEnded = true;
+  vbe_.LetGo();
+}
+
 std::string ComVbe::FullName() {
   std::string name;
   const auto failure = ResumeNext([&] { name = ToText(vbe_.Get(L"FullName")); });

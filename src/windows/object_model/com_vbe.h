@@ -14,8 +14,8 @@ class ComVbe : public VBE {
                   std::shared_ptr<const void> inUse = nullptr);
 
   /// From now on each call, that of an object handed out before, too, raises error 440 and does not
-  /// reach the environment.
-  void End() { vbe_.Connected()->hasEnded = true; }
+  /// reach the environment, and the environment is no longer held.
+  void End();
 
   /// That of the running program where the environment does not say: it is in its process.
   std::string FullName() override;

@@ -125,11 +125,12 @@ HRESULT DispatchObject::Try(std::wstring_view member, WORD kind, DISPPARAMS& par
 HRESULT DispatchObject::TryOnce(std::wstring_view member, WORD kind, DISPPARAMS& parameters,
                                 VARIANT* result, ExceptionInfo& exception) const {
   if (connection_->hasEnded) return RPC_E_DISCONNECTED;
+  const ComPointer<IDispatch> called = object_;  // the connection may end during the call
   DISPID id = DISPID_UNKNOWN;
-  const HRESULT status = names_->Find(*object_, member, id);
+  const HRESULT status = names_->Find(*called, member, id);
   if (FAILED(status)) return status;
-  return object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, result,
-                         exception.Receive(), nullptr);
+  return called->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, result,
+                        exception.Receive(), nullptr);
 }
 
 }  // namespace brimwork::windows

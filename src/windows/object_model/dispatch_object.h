@@ -90,6 +90,9 @@ class DispatchObject {
   /// As Set does: by reference where the object takes one, else by value.
   void PutReference(std::wstring_view property, const DispatchObject& value) const;
 
+  /// Gives its reference back. The connection has ended; calls raise error 440 as before.
+  void LetGo() { object_ = nullptr; }
+
   /// The same for every reference to this object.
   std::uintptr_t Identity() const;
 

@@ -38,6 +38,23 @@ TEST_F(ComObjectsTest, TheEnvironmentSaysWhereItsProgramIs) {
   EXPECT_EQ(vbe.FullName(), "C:\\VB98\\VB6.EXE");
 }
 
+TEST_F(ComObjectsTest, TheEnvironmentIsNotHeldOnceTheConnectionHasEnded) {
+  const ULONG others = fake->References() - 1;
+  vbe.End();
+  EXPECT_EQ(fake->References(), others);
+  EXPECT_EQ(NumberOfErrorIn([&] { vbe.MainWindow(); }), 440);
+  EXPECT_EQ(NumberOfErrorIn([&] { vbe.CommandBars(); }), 440);
+}
+
+TEST_F(ComObjectsTest, TheConnectionMayEndDuringACall) {
+  fake->On("FullName", [&](Invocation& call) {
+    vbe.End();
+    call.Return(Variant("late"));
+    return S_OK;
+  });
+  EXPECT_EQ(vbe.FullName(), "late");
+}
+
 TEST_F(ComObjectsTest, TheRunningProgramIsTheEnvironmentsWhereItDoesNotSay) {
   const std::string path = vbe.FullName();
   EXPECT_THAT(path, EndsWith(".exe"));
