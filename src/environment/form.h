@@ -102,6 +102,7 @@ class Form : public PropertyOwner {
   void FocusTabStop(const Control* start, int step);
   void GiveFocus(Control* target);
   void PressEnter();
+  void PressEscape();
   /// The usable button that the layout marks; null when there is none.
   CommandButton* MarkedButton(bool ControlLayout::*mark) const;
 

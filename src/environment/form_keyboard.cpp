@@ -75,7 +75,7 @@ void Form::Press(Key key) {
     case Key::kEnter:
       return PressEnter();
     case Key::kEscape:
-      if (CommandButton* const cancel = MarkedButton(&ControlLayout::isCancel)) cancel->Press();
+      return PressEscape();
   }
 }
 
@@ -86,6 +86,11 @@ void Form::PressEnter() {
   }
   if (CommandButton* const button = MarkedButton(&ControlLayout::isDefault)) return button->Press();
   if (active_ != nullptr) active_->PressEnter();
+}
+
+void Form::PressEscape() {
+  if (CommandButton* const cancel = MarkedButton(&ControlLayout::isCancel)) return cancel->Press();
+  if (layout_.closesOnEscape) Close();
 }
 
 CommandButton* Form::MarkedButton(bool ControlLayout::*mark) const {

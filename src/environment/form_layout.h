@@ -125,6 +125,7 @@ struct FormLayout {
   int height = 0;
   FormBorder border = FormBorder::kFixedDialog;
   bool hasControlBox = true;  // system menu and close button
+  bool closesOnEscape = false;  // where no button takes the key
   bool hasMinButton = false;
   bool hasMaxButton = false;
   bool isInTaskbar = false;

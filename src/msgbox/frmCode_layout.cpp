@@ -30,6 +30,7 @@ const FormLayout& CodeLayout() {
                                      .width = 560,
                                      .height = 140,
                                      .border = FormBorder::kSizable,
+                                     .closesOnEscape = true,
                                      .hasMinButton = true,
                                      .hasMaxButton = true,
                                      .startUpPosition = StartUpPosition::kCenterScreen,

@@ -54,6 +54,14 @@ TEST_F(CodeViewer, ShowsCodeOfSeveralLines) {
   EXPECT_FALSE(form.txtCode.Locked);
 }
 
+TEST_F(CodeViewer, IsClosedByTheEscapeKey) {
+  form.Show();
+  form.Press(Key::kEnter);
+  EXPECT_TRUE(form.IsLoaded());
+  form.Press(Key::kEscape);
+  EXPECT_FALSE(form.IsLoaded());
+}
+
 TEST_F(CodeViewer, FitsItsControls) { EXPECT_THAT(LayoutFaults(form), IsEmpty()); }
 
 }  // namespace frmCode_test
