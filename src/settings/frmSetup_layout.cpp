@@ -181,7 +181,7 @@ const FormLayout& SetupLayout() {
       {.name = "lblQuickExportPath",
        .container = kOtherPage,
        .place = {0, 52, 448, 13},
-       .text = "Folder for &quick export:",
+       .text = "Folder for q&uick export:",
        .tabIndex = 19},
       {.name = "txtQuickExportPath",
        .container = kOtherPage,
