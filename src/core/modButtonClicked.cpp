@@ -73,6 +73,7 @@ void WithCaretKept(AddIn& addIn, Run run) {
 }  // namespace
 
 void ButtonClicked(AddIn& addIn, std::string_view caption, bool wholeModule) {
+  addIn.context.indentUnit.reset();  // the user may have changed it since the last command
   if (wholeModule) {
     const auto* command = FindCommand(ModuleCommands(), caption);
     if (command != nullptr) WithCaretKept(addIn, [&] { RunModuleCommand(addIn, *command); });

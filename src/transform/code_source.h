@@ -14,20 +14,24 @@ std::shared_ptr<CodeModule> ActiveCodeModule(Environment& environment);
 /// True when there is a module; otherwise tells the user what to do and returns false.
 bool IsValidCodeSource(Environment& environment, const std::shared_ptr<CodeModule>& module);
 
-/// Shows the hourglass for as long as it lives, then the default pointer.
+/// Shows the hourglass for as long as it lives, then the default pointer. Under another one it does
+/// nothing: changing the pointer for each procedure of a module would cost more than the rest.
 class HourglassPointer {
  public:
   explicit HourglassPointer(Screen& screen) : screen_(screen) {
+    ResumeNext([&] { isShown_ = screen_.MousePointer() == mouse_pointer::kHourglass; });
+    if (isShown_) return;
     ResumeNext([&] { screen_.SetMousePointer(mouse_pointer::kHourglass); });
   }
   ~HourglassPointer() {
-    Insist([&] { screen_.SetMousePointer(mouse_pointer::kDefault); });
+    if (!isShown_) Insist([&] { screen_.SetMousePointer(mouse_pointer::kDefault); });
   }
   HourglassPointer(const HourglassPointer&) = delete;
   HourglassPointer& operator=(const HourglassPointer&) = delete;
 
  private:
   Screen& screen_;
+  bool isShown_ = false;  // by another one
 };
 
 /// How every code command starts and ends: without a module the user is told and nothing happens,

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "environment/code_module.h"
@@ -30,6 +31,7 @@ struct CurrentProcedure {
 struct Context {
   Environment& environment;
   CurrentProcedure procedure = {};
+  std::optional<int> indentUnit = {};  // once the running command has asked for it
 };
 
 }  // namespace brimwork

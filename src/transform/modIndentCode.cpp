@@ -178,7 +178,8 @@ class Indenter {
 
 void IndentCode(Context& context, int firstLine, int lastLine) {
   WithCodeSource(context.environment, [&](CodeModule& module) {
-    Indenter indenter(ReadIndentUnit(context.environment));
+    if (!context.indentUnit) context.indentUnit = ReadIndentUnit(context.environment);
+    Indenter indenter(*context.indentUnit);
     std::string text;
     for (int line = firstLine; line <= lastLine; ++line) {
       module.ReadLine(line, text);

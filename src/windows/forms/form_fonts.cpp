@@ -47,7 +47,7 @@ HFONT FormFonts::Font(const ControlFont& font) {
 }
 
 SIZE FormFonts::Measure(std::string_view text, const ControlFont& font) {
-  const MemoryContext context;
+  const HDC context = measuring_;
   const SelectedObject selected(context, Font(font));
   const std::wstring wide = win32::Wide(text);
   SIZE size = {};

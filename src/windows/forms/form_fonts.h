@@ -34,6 +34,7 @@ class FormFonts {
 
   ScreenScale scale_;
   std::vector<MadeFont> fonts_;
+  MemoryContext measuring_;
 };
 
 }  // namespace brimwork::windows

@@ -134,13 +134,18 @@ void FormWindow::ShowOwn(PropertyId property) {
   SetWindowTextW(handle_, win32::Wide(form_->Caption.Get()).c_str());
 }
 
+// What nobody could see apart is painted once: the latest of it when messages are handled next.
 void FormWindow::Refresh(Control& control) {
+  constexpr DWORD kUnseen = 25;  // milliseconds
+  const DWORD now = GetTickCount();
+  if (refreshed_ != 0 && now - refreshed_ < kUnseen) return;
   const MessageScope scope(*this);
   const ControlWindow* const window = WindowOf(control);
   if (window == nullptr || !IsWindowVisible(handle_)) return;
   UpdateWindow(handle_);
   RedrawWindow(window->Handle(), nullptr, nullptr,
                RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+  refreshed_ = now;
 }
 
 ControlWindow* FormWindow::WindowOf(const Control& control) const {

@@ -152,6 +152,7 @@ class FormWindow : public std::enable_shared_from_this<FormWindow> {
   std::unique_ptr<OtherWindowsDisabled> modal_;
   std::shared_ptr<FormWindow> untilDestroyed_;  // itself, while the system destroys the window
   int depth_ = 0;                               // of messages that are being handled
+  DWORD refreshed_ = 0;  // when a control was last painted at once; 0 for never
   bool isShowingFocus_ = false;
 };
 

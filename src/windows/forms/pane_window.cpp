@@ -17,7 +17,8 @@ void PaneWindow::Show(PropertyId property) {
   ControlWindow::Show(property);
   const bool isPainted = property == PropertyId::kFont || property == PropertyId::kCaption ||
                          property == PropertyId::kPicture || property == PropertyId::kDrawing;
-  if (isPainted) Repaint();
+  if (!isPainted || std::exchange(isStale_, true)) return;
+  Repaint();
 }
 
 LRESULT PaneWindow::Receive(UINT message, WPARAM wide, LPARAM longer) {
@@ -25,6 +26,7 @@ LRESULT PaneWindow::Receive(UINT message, WPARAM wide, LPARAM longer) {
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT:
+      isStale_ = false;
       PaintBuffered();
       return 0;
     case WM_PRINTCLIENT: {

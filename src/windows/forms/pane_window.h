@@ -27,6 +27,7 @@ class PaneWindow : public ControlWindow {
   void Release(LPARAM position);
 
   bool isPressed_ = false;
+  bool isStale_ = false;  // the system knows already that it is to be painted
 };
 
 }  // namespace brimwork::windows
