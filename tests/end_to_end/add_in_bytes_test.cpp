@@ -54,7 +54,7 @@ fs::path Library() { return Source("build/win32/bin/Brimwork.dll"); }
 std::string Obstacle() {
   if (!fs::exists("/usr/bin/wine")) return "wine is not installed";
   if (!fs::exists(Library())) return "the add-in has not been built (cmake --build --preset win32)";
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(BRIMWORK_SANITIZED)
   return "the tool is compared without the sanitizers";
 #else
   return "";

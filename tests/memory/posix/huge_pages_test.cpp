@@ -88,7 +88,7 @@ TEST(PreferHugeHeap, LeavesTheHeapAsGoodAsBefore) {
 }
 
 TEST(PreferHugeHeap, AsksForLargePagesWhereLargeThingsGo) {
-#if !defined(__GLIBC__) || defined(__SANITIZE_ADDRESS__)
+#if !defined(__GLIBC__) || defined(BRIMWORK_SANITIZED)
   GTEST_SKIP() << "this heap is not the system's own";
 #endif
   if (!SystemKnowsThem()) GTEST_SKIP() << "this system has no large pages";

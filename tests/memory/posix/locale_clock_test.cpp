@@ -10,7 +10,7 @@
 #include "support/scoped_variable.h"
 #include "support/temporary_folder.h"
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef BRIMWORK_SANITIZED
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -82,7 +82,7 @@ class MadeLocale : public testing::Test {
   /// The C library never frees what it reads from LOCPATH, and the leak check would take that for
   /// a leak of ours.
   static LocaleClock ClockIn(const std::string& locale) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef BRIMWORK_SANITIZED
     const __lsan::ScopedDisabler notOurs;
 #endif
     return LocaleClock({2026, 11, 5, 22, 20, 30}, locale);
