@@ -48,7 +48,7 @@ TEST_P(CloseWindowsEntry, LeavesTheActiveWindowAndAllToolWindows) {
 
   ClickEntry(Bench(), GetParam());
 
-  EXPECT_TRUE(WaitUntil([] { return OpenDocuments(Bench()) == 1; }));
+  ASSERT_TRUE(WaitUntil([] { return OpenDocuments(Bench()) == 1; }));
   EXPECT_EQ(TextOf(Bench().Vbe().Object(L"ActiveCodePane")), text);
   EXPECT_EQ(ShownToolWindows(Bench()), tools);
   EXPECT_TRUE(WaitUntilAlone(Bench()));
