@@ -44,6 +44,14 @@ void RequireOpenMenu() {
   if (!WaitUntil(IsMenuOpen)) throw std::runtime_error("the menu does not open");
 }
 
+/// Another window that goes at the same moment may take the menu along: then it is opened again.
+void OpenAddInsMenu() {
+  PressKey('A', {VK_MENU});
+  if (WaitUntil(IsMenuOpen)) return;
+  PressKey(VK_ESCAPE);
+  PressKey('A', {VK_MENU});
+}
+
 /// Walks an open menu with the arrow keys and presses Enter at the last caption.
 void PickInMenu(Client controls, const std::vector<std::string>& captions) {
   RequireOpenMenu();
@@ -113,7 +121,7 @@ void ClickEntry(const RunningBench& bench, int handler) {
 void ClickEntry(const RunningBench& bench, const CatalogueEntry& entry) {
   if (entry.place == EntryPlace::kToolbar) return ClickOnToolbar(bench, PathTo(entry));
   if (entry.place == EntryPlace::kAddInsMenu) {
-    PressKey('A', {VK_MENU});
+    OpenAddInsMenu();
   } else {
     PressKey(VK_F10, {VK_SHIFT});
   }
