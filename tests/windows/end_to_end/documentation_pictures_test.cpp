@@ -19,11 +19,11 @@
 namespace brimwork {
 namespace documentation_pictures_test {
 
-constexpr int kIndentAll = 5;
+constexpr int kCommentAll = 2;
 constexpr int kDesigner = 50;
 constexpr int kConfigure = 62;
 constexpr int kAbout = 63;
-constexpr const wchar_t* kProgress = L"Indenting All Procedures";
+constexpr const wchar_t* kProgress = L"Comment All Procedures";
 
 constexpr const char* kCode =
     "Option Explicit\r\n"
@@ -116,7 +116,7 @@ TEST_F(DocumentationPictures, ShowTheAboutBox) {
 
 TEST_F(DocumentationPictures, ShowTheProgressWindow) {
   std::string text;
-  for (int i = 0; i < 4000; ++i) text += "Sub Shelf" + std::to_string(i) + "()\r\nEnd Sub\r\n";
+  for (int i = 0; i < 8000; ++i) text += "Sub Shelf" + std::to_string(i) + "()\r\nEnd Sub\r\n";
   ShowText("modStock", text, 1, 1);
   // The test waits for the command where it lets go of the menu's entries.
   HWND progress = nullptr;
@@ -124,7 +124,7 @@ TEST_F(DocumentationPictures, ShowTheProgressWindow) {
     WaitUntil([&] { return IsWindowVisible(progress = FindWindowW(nullptr, kProgress)) != 0; });
     Save(progress, "progress");
   });
-  ClickEntry(Bench(), EntryOf(kIndentAll));
+  ClickEntry(Bench(), EntryOf(kCommentAll));
   photographer.join();
   EXPECT_TRUE(Bench().WaitUntilGone(progress));
 }
