@@ -4,14 +4,13 @@
 #include <gtest/gtest.h>
 #include <tlhelp32.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include "core/modMiscellaneousCode.h"
+#include "support/windows/test_browser.h"
 #include "support/windows/user.h"
 #include "support/windows/waiting.h"
-#include "win32/registry_key.h"
 #include "windows/end_to_end/bench_suite.h"
 #include "windows/end_to_end/bench_windows.h"
 #include "windows/end_to_end/entry_clicks.h"
@@ -37,27 +36,6 @@ bool HasLoaded(DWORD process, const wchar_t* library) {
   CloseHandle(modules);
   return hasIt;
 }
-
-/// Writes the address that it is given into a file, in the place of the user's browser.
-class TestBrowser {
- public:
-  explicit TestBrowser(const fs::path& file) {
-    command_.SetText("", Shell() + " /c echo %1>\"" + file.string() + '"');
-  }
-  ~TestBrowser() { command_.SetText("", users_); }
-  TestBrowser(const TestBrowser&) = delete;
-  TestBrowser& operator=(const TestBrowser&) = delete;
-
- private:
-  static std::string Shell() {
-    const char* const shell = std::getenv("ComSpec");
-    return shell != nullptr ? shell : "cmd.exe";
-  }
-
-  win32::RegistryKey command_ =
-      win32::RegistryKey::Make(HKEY_CLASSES_ROOT, "https\\shell\\open\\command");
-  std::string users_ = command_.Text("").value_or("");
-};
 
 class HelpEntries : public BenchSuite {};
 
