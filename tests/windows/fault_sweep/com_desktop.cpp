@@ -9,6 +9,14 @@ Patience WithoutPauses() {
   return {{0}, [](unsigned) {}};
 }
 
+/// On the disk once for the thousands of desktops of a sweep.
+struct EmptyProject {
+  EmptyProject() { WriteBytes(path, "Type=Exe\r\nName=\"Project1\"\r\n"); }
+
+  TemporaryFolder folder;
+  std::filesystem::path path = folder / "Project1.vbp";
+};
+
 }  // namespace
 
 ComDesktop::ComDesktop(DispatchFault fault) : calls(std::move(fault)) {
@@ -19,9 +27,8 @@ ComDesktop::ComDesktop(DispatchFault fault) : calls(std::move(fault)) {
 }
 
 std::shared_ptr<MemoryCodePane> ComDesktop::Open(const std::string& text) {
-  const TemporaryFolder folder;
-  WriteBytes(folder / "Project1.vbp", "Type=Exe\r\nName=\"Project1\"\r\n");
-  workbench.Open(folder / "Project1.vbp");
+  static const EmptyProject project1;
+  workbench.Open(project1.path);
   const auto project = workbench.ActiveProject();
   project->AddModule("Module1", text);
   return workbench.PaneOf(project->Components().back());
